@@ -1,0 +1,58 @@
+#include "core/main_window/frm_main.h"
+
+namespace zelvane::main_window {
+
+frmMain::frmMain(const platform::Desktop& desktop)
+    : desktop_(desktop),
+      handler_(desktop.dialogs, desktop.identity),
+      settings_(desktop.settings, desktop.identity),
+      options_(cleanerPage, settings_, desktop.registry, savingOptions_),
+      homePage_(cleanerPage, settings_, desktop.registry),
+      run_(cleanerPage,
+           {.cmdApply = schedulePage.cmdApply,
+            .cmdCancel = schedulePage.cmdCancel,
+            .lblLastRunTime = schedulePage.lblLastRunTime,
+            .tmrSchedule = schedulePage.tmrSchedule,
+            .tmrMakeScehduleEnable = schedulePage.tmrMakeScehduleEnable,
+            .tabMain = mainPage.tabMain,
+            .lblStatus = mainPage.lblStatus},
+           desktop, handler_),
+      scheduleTimer_(schedulePage, settings_, handler_) {
+  wire();
+}
+
+void frmMain::wire() {
+  mainPage.form.activated.connect([this] { Form_Activate(); });
+  mainPage.form.queryUnload.connect(
+      [this](bool& cancel, controls::UnloadMode mode) { Form_QueryUnload(cancel, mode); });
+  mainPage.form.unloaded.connect([this] { Form_Unload(); });
+  mainPage.cmdClose.clicked.connect([this] { cmdClose_Click(); });
+
+  // A page whose subsystem is not built yet cannot be used; its controls' own states stay as they
+  // are designed.
+  for (controls::Frame* frame :
+       {&popupPage.Frame1, &fileSecurityPage.fmDravik, &schedulePage.fmSchedule}) {
+    frame->setDescription("This page comes with a later version.");
+    frame->setEnabled(false);
+  }
+}
+
+std::vector<const controls::Page*> frmMain::pages() const {
+  return {&mainPage,         &trayMenu,     &cleanerPage, &popupPage,
+          &fileSecurityPage, &schedulePage, &aboutPage};
+}
+
+controls::Control* frmMain::find(std::string_view name) const {
+  for (const controls::Page* page : pages()) {
+    if (controls::Control* control = page->find(name)) {
+      return control;
+    }
+  }
+  return nullptr;
+}
+
+void frmMain::Form_Activate() { mainPage.cmdClose.setVisible(true); }
+
+void frmMain::cmdClose_Click() { mainPage.form.unload(controls::UnloadMode::code); }
+
+}  // namespace zelvane::main_window

@@ -1,0 +1,105 @@
+// The window's load: every subsystem is brought into its start state, in a fixed order.
+#include <string>
+
+#include "core/main_window/frm_main.h"
+#include "core/numbers.h"
+#include "core/version_label.h"
+#include "platform/identity.h"
+
+namespace zelvane::main_window {
+
+using Application = core::SettingsStore::Application;
+
+void frmMain::show() {
+  Form_Load();
+  mainPage.form.setVisible(true);
+}
+
+// A failing step ends the load: the steps after it are skipped, and their controls keep their
+// designed values.
+void frmMain::Form_Load() {
+  handler_([this] {
+    readAlertSoundPath();
+    showVersionLabel();
+    showMakersAddress();
+    installKeyboardHook();
+    showMachineNames();
+    loadPopupSwitch();
+    createBrowserTracker();
+    registerContainerType();
+    loadCleaningOptions();
+    loadAutoCompleteBox();
+    reimposeHomePage();
+    addTrayIcon();
+    emptySchedulePickers();
+    showLocalAddress();
+    loadStartupBox();
+    loadSchedule();
+    markScheduleApplied();
+    showReady();
+    markPopupKillerItem();
+  });
+}
+
+void frmMain::readAlertSoundPath() {}
+
+void frmMain::showVersionLabel() {
+  const std::string label = core::versionLabel(desktop_.identity.version());
+  mainPage.form.setCaption(label);
+  trayMenu.mnuShow.setCaption(label);
+}
+
+void frmMain::showMakersAddress() {
+  mainPage.lblWebSite.setCaption(desktop_.identity.version().makerAddress);
+  popupPage.Label9.setCaption(desktop_.identity.version().makerAddress);
+}
+
+void frmMain::installKeyboardHook() {}
+
+void frmMain::showMachineNames() {}
+
+void frmMain::loadPopupSwitch() {}
+
+void frmMain::createBrowserTracker() {}
+
+void frmMain::registerContainerType() {}
+
+// The defaults come first and the stored states over them, so that an option which was never stored
+// has its default. Setting the boxes clicks them; the clear flag keeps those clicks from writing
+// the defaults over what is stored.
+void frmMain::loadCleaningOptions() {
+  savingOptions_ = false;
+  options_.cmdDefaultSettings_Click();
+  options_.loadOptions();
+}
+
+void frmMain::loadAutoCompleteBox() { options_.loadWebAddress(); }
+
+void frmMain::reimposeHomePage() {
+  homePage_.reimpose();
+  savingOptions_ = true;
+}
+
+void frmMain::addTrayIcon() {}
+
+void frmMain::emptySchedulePickers() {}
+
+void frmMain::showLocalAddress() {}
+
+void frmMain::loadStartupBox() {
+  mainPage.chkStartup.setValue(
+      core::toInteger(settings_.load(Application::title, "Options", "StartUp", "0")));
+}
+
+void frmMain::loadSchedule() {}
+
+void frmMain::markScheduleApplied() {
+  schedulePage.cmdApply.setEnabled(false);
+  schedulePage.cmdCancel.setEnabled(false);
+}
+
+void frmMain::showReady() { mainPage.lblStatus.setCaption("Ready"); }
+
+void frmMain::markPopupKillerItem() {}
+
+}  // namespace zelvane::main_window

@@ -1,0 +1,16 @@
+// The few formats of the program's texts, the same in every locale.
+#pragma once
+
+#include <chrono>
+#include <string>
+#include <string_view>
+
+namespace zelvane::core {
+
+// "hh:mm:ss" on a clock of 24 hours, always 8 characters.
+std::string timeText(std::chrono::seconds timeOfDay);
+
+// How many characters a UTF-8 text has. A byte that is no UTF-8 counts as one.
+std::size_t characterCount(std::string_view text);
+
+}  // namespace zelvane::core

@@ -1,0 +1,40 @@
+// One reference for each port: what `main` builds and hands to the program.
+#pragma once
+
+namespace zelvane::platform {
+
+class Clipboard;
+class Clock;
+class Dialogs;
+class EventPump;
+class Files;
+class FolderTree;
+class Identity;
+class ProcessEnd;
+class ProfileFile;
+class RecycleBin;
+class Registry;
+class SettingsBackend;
+class SingleInstance;
+class SpecialFolders;
+class WindowCommands;
+
+struct Desktop {
+  const Identity& identity;
+  const Clock& clock;
+  SettingsBackend& settings;
+  Registry& registry;
+  ProfileFile& winIni;
+  const SpecialFolders& specialFolders;
+  FolderTree& folderTree;
+  Files& files;
+  RecycleBin& recycleBin;
+  Clipboard& clipboard;
+  Dialogs& dialogs;
+  WindowCommands& window;
+  EventPump& pump;
+  SingleInstance& instance;
+  ProcessEnd& process;
+};
+
+}  // namespace zelvane::platform

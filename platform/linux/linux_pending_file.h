@@ -1,0 +1,42 @@
+// A file on its way into a folder: written out of sight, then named in one step.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "platform/files.h"
+#include "platform/linux/descriptor.h"
+
+namespace zelvane::platform {
+
+class LinuxPendingFile : public PendingFile {
+ public:
+  enum class Kind { unnamed, hidden };
+
+  // With this begins the name that a file has while it waits, and after a kill just then for good.
+  static constexpr std::string_view kHiddenPrefix = ".zelvane-";
+
+  // In the open folder `folder`, to be published there as `name`. An unnamed file is what one
+  // wants; a hidden one is made instead where the file system has no unnamed ones, or when asked
+  // for.
+  LinuxPendingFile(Descriptor folder, std::string name, Kind kind = Kind::unnamed);
+  ~LinuxPendingFile() override;
+
+  void write(std::string_view bytes) override;
+  void publish() override;
+
+ private:
+  void createHidden();
+  // False when the name is taken.
+  bool linkAs(const std::string& name) const;
+  void replaceTarget();
+  void removeHidden();
+
+  Descriptor folder_;
+  std::string name_;
+  std::string hiddenName_;  // empty while the file has no name in the folder
+  Descriptor file_;
+  bool published_ = false;
+};
+
+}  // namespace zelvane::platform

@@ -1,0 +1,18 @@
+// Every place where the desktop's deleted files wait to be restored.
+#pragma once
+
+#include <cstdint>
+
+#include "platform/port.h"
+
+namespace zelvane::platform {
+
+class RecycleBin : public Port {
+ public:
+  // Empties the bin of every mounted volume; asks nothing, follows no link. Returns the bytes
+  // freed, 0 for an empty bin. What refuses to go stays, with the note that says where it came
+  // from, and does not stop the rest: permissionDenied is thrown after the last one.
+  virtual std::uint64_t empty() = 0;
+};
+
+}  // namespace zelvane::platform

@@ -1,0 +1,19 @@
+#include "scheduler/schedule_page.h"
+
+namespace zelvane::scheduler {
+
+SchedulePage::SchedulePage() {
+  for (controls::Control* control : controls()) {
+    if (control != &fmSchedule && control != &tmrSchedule && control != &tmrMakeScehduleEnable) {
+      control->placeIn(fmSchedule);
+    }
+  }
+  lblDays.labels(cmbDays);
+  lblDate.labels(dtpScheduleDate);
+  lblTime.labels(dtpScheduleTime);
+  lblRunAfter.labels(txtHours);
+  cmdApply.setEnabled(false);
+  cmdCancel.setEnabled(false);
+}
+
+}  // namespace zelvane::scheduler

@@ -1,0 +1,108 @@
+# shellcheck shell=bash
+# What the project needs of the system: one list, and its installation. To be sourced.
+#
+# Each line: who needs it, Debian's name, how to see it on a system without Debian's packages, and why.
+
+packageList() {
+  cat <<'END'
+build         g++                 command:g++                        compiles C++20
+build         cmake               command:cmake                      describes the build
+build         ninja-build         command:ninja                      runs it
+build         qt6-base-dev        lib:cmake/Qt6Widgets               the window, and Qt D-Bus
+build         qt6-svg-dev         lib:cmake/Qt6Svg                   draws the program's icon
+build         libqt6svg6          lib:libQt6Svg.so.6                 lets Qt load that icon
+build         nlohmann-json3-dev  header:nlohmann/json.hpp           reads and writes JSON
+build         fonts-dejavu-core   file:/usr/share/fonts/*            letters, which a small system lacks
+display       xvfb                command:Xvfb                       a display without a screen
+display       xauth               command:xauth                      closes it to everyone else
+display       openbox             command:openbox                    a window manager for it
+display       xdotool             command:xdotool                    moves a pointer, types
+display       xclip               command:xclip                      reads and fills its clipboard
+display       dbus                command:dbus-run-session           a session bus that ends with the run
+display       dbus-x11            command:dbus-launch                tells programs of the bus by the display
+display       at-spi2-core        file:/usr/share/dbus-1/services/org.a11y.Bus.service  presses buttons
+display       gir1.2-atspi-2.0    lib:girepository-1.0/Atspi-2.0.typelib                the same, for scripts
+display       python3-gi          lib:python3*/*-packages/gi         the same, for Python
+display,check python3             file:/usr/bin/python3              drives the window; counts the tests
+display       imagemagick         command:import                     takes screenshots
+display       procps              command:ps                         sees which programs run
+display       file                command:file                       says what a screenshot is
+check         googletest          header:gtest/gtest.h               the tests' framework, as sources
+check         libgtest-dev        header:gtest/gtest.h               its headers
+check         ccache              command:ccache                     compiles nothing twice
+check         git                 command:git                        says which files have changed
+asan,tidy     clang-14            command:clang++-14                 builds for the sanitizers and for clang-tidy
+asan          libclang-rt-14-dev  command:clang++-14                 the sanitizers themselves
+format        clang-format-14     command:clang-format-14            lays out the sources
+tidy          clang-tidy-14       command:clang-tidy-14              finds mistakes in the sources
+END
+}
+
+# Installs what is missing for the named users of the list, with sudo where needed, and says so. Fails
+# with a list of what is missing where it cannot. Without anything missing it calls nobody.
+ensurePackages() {
+  local -a missing administrator=()
+  local output
+  mapfile -t missing < <(missingPackages "$@")
+  if ((${#missing[@]} == 0)); then
+    return 0
+  fi
+  if ! command -v apt-get >/dev/null; then
+    sayPackages "There is no apt-get here. Please install these (by Debian's names):" "${missing[@]}"
+    return 1
+  fi
+  if ((EUID != 0)); then
+    administrator=(sudo)
+    if ! command -v sudo >/dev/null; then
+      sayPackages "Installing needs root or sudo. Please install these:" "${missing[@]}"
+      return 1
+    fi
+  fi
+  sayPackages "Installing with ${administrator:+sudo }apt-get, which may take some minutes:" "${missing[@]}"
+  administrator+=(env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300)
+  # Where one of the sources of packages cannot be reached, the others may do.
+  if ! output=$("${administrator[@]}" update 2>&1 || true
+    "${administrator[@]}" install -y --no-install-recommends "${missing[@]}" </dev/null 2>&1); then
+    tail -n 30 <<<"$output"
+    sayPackages "The installation failed. Please install these:" "${missing[@]}"
+    return 1
+  fi
+}
+
+missingPackages() {
+  local users name sign reason user
+  while read -r users name sign reason; do
+    for user in "$@"; do
+      if [[ ,$users, == *",$user,"* ]] && ! isInstalled "$name" "$sign"; then
+        echo "$name"
+        break
+      fi
+    done
+  done < <(packageList)
+}
+
+# isInstalled NAME SIGN
+isInstalled() {
+  local place=${2#*:}
+  if command -v dpkg-query >/dev/null; then
+    [[ $(dpkg-query -W -f '${db:Status-Status}' "$1" 2>/dev/null) == installed ]]
+    return
+  fi
+  case $2 in
+    command:*) command -v "$place" ;;
+    header:*) echo "#include <$place>" | c++ -E -x c++ - ;;
+    lib:*) compgen -G "/usr/lib*/$place" || compgen -G "/usr/lib*/*/$place" ;;
+    file:*) compgen -G "$place" ;;
+  esac >/dev/null 2>&1
+}
+
+# sayPackages HEADLINE NAME...
+sayPackages() {
+  local name reason list
+  list=$(packageList)
+  echo "$1"
+  for name in "${@:2}"; do
+    reason=$(awk -v name="$name" '$2 == name { $1 = $2 = $3 = ""; print; exit }' <<<"$list")
+    printf '  %-20s%s\n' "$name" "${reason##+( )}"
+  done
+}

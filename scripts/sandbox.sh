@@ -1,0 +1,89 @@
+# shellcheck shell=bash
+# A place and a user to throw away, for the tests and the demonstration. To be sourced in the project's
+# root.
+#
+# Permissions stop everyone but root, so what root starts is run as a user made for the occasion; an
+# ordinary user's runs are run as that user. Either way home, temporary and run-time folder lie in the
+# sandbox, and nothing of the caller's environment goes in.
+
+sandbox='' tester='' project='' place='' running=''
+
+# Afterwards $tester is who runs, and $project is where that user finds the project.
+openSandbox() {
+  sandbox=$(mktemp -d /tmp/zelvane.XXXXXX)
+  tester=$(id -un)
+  project=$PWD
+  if ((EUID == 0)); then
+    # Root's checkout may lie where no other user can look, as in root's home.
+    project=$sandbox/project
+    chmod 711 "$sandbox"
+    mkdir "$project"
+    tar --exclude=./build --exclude=./.git -cf - . | tar -xf - -C "$project" --no-same-owner
+    chmod -R go=rX "$project"
+    useradd --system --home-dir /nonexistent --shell /usr/sbin/nologin "zelvane-$$"
+    tester=zelvane-$$
+  fi
+}
+
+# offerBuild PRESET: puts the programs of a build where the tester finds them, in $project/build/PRESET.
+offerBuild() {
+  if ((EUID == 0)); then
+    find "build/$1" "build/$1/tests" -maxdepth 1 -type f -executable \
+      -exec cp --parents --target-directory "$project" {} + 2>/dev/null || true
+    chmod -R go=rX "$project/build"
+  fi
+}
+
+closeSandbox() {
+  local pid
+  stopRunning
+  if [[ $tester == "zelvane-$$" ]]; then
+    for pid in $(ps -o pid= -u "$tester"); do
+      kill -KILL "$pid" 2>/dev/null || true
+    done
+    userdel "$tester"
+  fi
+  if [[ -n $sandbox ]]; then
+    chmod -R u+rwX "$sandbox" 2>/dev/null || true # a test of permissions may have ended early
+    rm -rf "$sandbox"
+  fi
+  tester=''
+  sandbox=''
+}
+
+# inSandbox SECONDS COMMAND...: runs it with a home of its own in $place, a new folder, for so long at
+# most. Returns how it ended, 124 for too long. What it left running ends as well.
+inSandbox() {
+  local seconds=$1 ended=0
+  local -a user=() owner=()
+  shift
+  if ((EUID == 0)); then
+    user=(setpriv --reuid "$tester" --regid "$tester" --clear-groups)
+    owner=(-o "$tester" -g "$tester")
+  fi
+  place=$(mktemp -d "$sandbox/XXXX") # short, as the path of a socket has room for 107 letters
+  install -d -m 700 "${owner[@]}" "$place" "$place"/{home,tmp,run} \
+    "$place"/home/{.config,.cache,.local,.local/share,.local/state}
+  local -a environment=(
+    PATH=/usr/local/bin:/usr/bin:/bin:/usr/sbin:/sbin LANG=C.UTF-8
+    USER="$tester" LOGNAME="$tester" HOME="$place/home"
+    TMPDIR="$place/tmp" XDG_RUNTIME_DIR="$place/run"
+    XDG_CONFIG_HOME="$place/home/.config" XDG_CACHE_HOME="$place/home/.cache"
+    XDG_DATA_HOME="$place/home/.local/share" XDG_STATE_HOME="$place/home/.local/state"
+    PYTHONDONTWRITEBYTECODE=1 ZELVANE_SOURCE_DIR="$project"
+  )
+  # In the background, so that Ctrl-C reaches this shell at once; timeout makes it a group of its own.
+  (cd "$place/home" && exec timeout --kill-after=10 "$seconds" \
+    "${user[@]}" env -i "${environment[@]}" "$@") &
+  running=$!
+  wait "$running" 2>/dev/null || ended=$?
+  stopRunning
+  return "$ended"
+}
+
+stopRunning() {
+  if [[ -n $running ]]; then
+    kill -TERM -- "-$running" 2>/dev/null || true
+    running=''
+  fi
+}

@@ -1,0 +1,42 @@
+#include <algorithm>
+
+#include "platform/memory/memory_recycle_bin.h"
+#include "tests/contract/recycle_bin_contract.h"
+
+namespace zelvane::test {
+namespace {
+
+using platform::MemoryRecycleBin;
+
+class MemoryRecycleBinBed : public RecycleBinBed {
+ public:
+  platform::RecycleBin& bin() override { return bin_; }
+  void put(const std::string& name, std::size_t bytes) override {
+    bin_.put({.name = name, .bytes = bytes});
+  }
+  void putFromOtherVolume(const std::string& name, std::size_t bytes) override { put(name, bytes); }
+  void putRefusing(const std::string& name) override { bin_.put({.name = name, .refuses = true}); }
+  bool has(const std::string& name) const override {
+    return std::ranges::count(bin_.items(), name, &MemoryRecycleBin::Item::name) > 0;
+  }
+
+ private:
+  MemoryRecycleBin bin_;
+};
+
+INSTANTIATE_TEST_SUITE_P(Memory, RecycleBinContract,
+                         testing::Values([]() -> std::unique_ptr<RecycleBinBed> {
+                           return std::make_unique<MemoryRecycleBinBed>();
+                         }));
+
+TEST(MemoryRecycleBin, CountsHowOftenItWasEmptied) {
+  MemoryRecycleBin bin;
+
+  bin.empty();
+  bin.empty();
+
+  EXPECT_EQ(bin.emptied(), 2);
+}
+
+}  // namespace
+}  // namespace zelvane::test

@@ -1,0 +1,86 @@
+#!/usr/bin/python3
+"""The program's first start in a home that has never seen it."""
+
+import support  # noqa: F401
+from desktop import checks, hive
+from desktop.window import TITLE
+
+TICKED = {
+    "Clear Site Addresses", "Clear Browser Cookies", "Clear Browser History Logs",
+    "Frees space on your Hard Drive", "Clear Windows' secret index.dat file",
+    "Prevent Sites from improperly changing your Home Page", "Clear Recent Files List",
+    "Clear Recycle Bin", "Windows Temp Directories",
+    # No browser has been asked to suggest addresses.
+    "Clear Auto Complete Web Addresses",
+}
+UNTICKED = {
+    "Clear Temporary Internet Files", "Clear Browser Favorites ", "Clear My Documents Files",
+    "Clear Clipboard", 'Delete Windows start menu "run" history', "Disable Script Debugging",
+    "Don't Display a Notification About Every Script Error", "Run on Startup",
+}
+OWN_FILES = {
+    ".config/zelvane/.lock", ".config/zelvane/registry.json", ".config/zelvane/settings.json",
+    ".config/zelvane/win.ini", ".local/share/zelvane/ding.wav",
+    ".local/share/zelvane/wavpath.txt",
+}
+
+
+def the_window_is_called_by_name_and_version(bed):
+    with bed.start() as program:
+        assert program.window().title == TITLE
+
+
+def the_first_page_is_in_front_and_the_status_line_says_ready(bed):
+    with bed.start() as program:
+        window = program.window()
+
+        assert window.page == "Main"
+        assert window.says("Ready")
+
+
+def the_usual_options_are_ticked_and_no_other(bed):
+    with bed.start() as program:
+        ticks = program.window().ticks()
+
+        assert {caption for caption, ticked in ticks.items() if ticked} == TICKED
+        assert {caption for caption, ticked in ticks.items() if not ticked} == UNTICKED
+
+
+def the_home_page_is_blank_and_imposed_on_the_browser(bed):
+    with bed.start() as program:
+        assert program.window().home_page.text() == "about:blank"
+        assert hive.texts(bed.home, hive.BROWSER)["Start Page"] == "about:blank"
+
+
+def the_log_is_empty(bed):
+    with bed.start() as program:
+        assert program.window().log.text() == ""
+
+
+def what_is_stored_is_private_to_its_user(bed):
+    with bed.start() as program:
+        program.window().press("Exit")
+        assert program.end_status() == 0
+
+    assert bed.home.mode(bed.home.settings.parent) == 0o700
+    assert {bed.home.mode(file) for file in bed.home.settings.parent.iterdir()} == {0o600}
+
+
+def nothing_is_written_but_the_files_of_its_own(bed):
+    with bed.start() as program:
+        program.window().press("Exit")
+        assert program.end_status() == 0
+
+    assert set(bed.home.files()) <= OWN_FILES, bed.home.files()
+    assert not list(bed.home.temporary.iterdir())
+
+
+checks.run(
+    the_window_is_called_by_name_and_version,
+    the_first_page_is_in_front_and_the_status_line_says_ready,
+    the_usual_options_are_ticked_and_no_other,
+    the_home_page_is_blank_and_imposed_on_the_browser,
+    the_log_is_empty,
+    what_is_stored_is_private_to_its_user,
+    nothing_is_written_but_the_files_of_its_own,
+)

@@ -1,0 +1,157 @@
+// The window's load, step by step.
+#include <ostream>
+#include <vector>
+
+#include "tests/unit/main_window/window_test.h"
+
+namespace zelvane::main_window {
+namespace {
+
+class LoadTest : public WindowTest {
+ protected:
+  std::vector<int> options() const {
+    std::vector<int> values;
+    for (const controls::CheckBox& box : window.cleanerPage.chkSettings) {
+      values.push_back(box.value());
+    }
+    return values;
+  }
+};
+
+TEST_F(LoadTest, AFirstStartOnACleanProfile) {
+  start();
+
+  EXPECT_EQ(window.mainPage.chkStartup.value(), 0);
+  EXPECT_EQ(window.cleanerPage.txtHomePageURL.text(), "about:blank");
+  EXPECT_EQ(desktop.registry.text(Root::currentUser, kBrowserMain, "Start Page"), "about:blank");
+  EXPECT_EQ(options(), (std::vector<int>{1, 1, 1, 1, 0, 1, 0, 1, 0, 1, 1, 1, 0, 0, 0, 0}));
+  EXPECT_EQ(desktop.settings.find("Schedule", "RunOn"), std::nullopt);
+  EXPECT_EQ(window.mainPage.lblStatus.caption(), "Ready");
+}
+
+TEST_F(LoadTest, TheVersionLabelIsTheCaptionOfTheWindowAndOfTheTraysFirstItem) {
+  desktop.identity.facts.version.minor = 7;
+
+  start();
+
+  EXPECT_EQ(window.mainPage.form.caption(), "Zelvane v1.7");
+  EXPECT_EQ(window.trayMenu.mnuShow.caption(), "Zelvane v1.7");
+}
+
+TEST_F(LoadTest, BothWebLabelsShowTheMakersAddress) {
+  start();
+
+  EXPECT_EQ(window.mainPage.lblWebSite.caption(), "https://www.zelvane.example/");
+  EXPECT_EQ(window.popupPage.Label9.caption(), "https://www.zelvane.example/");
+}
+
+TEST_F(LoadTest, StoredOptionsWinOverTheDefaultsAndTheLoadStoresNone) {
+  storeOption(2, "0");
+  storeOption(8, "1");
+  storeOption(9, "3");
+
+  start();
+
+  EXPECT_EQ(options(), (std::vector<int>{1, 1, 0, 1, 0, 1, 0, 1, 1, 1, 1, 1, 0, 0, 0, 0}));
+  EXPECT_TRUE(desktop.settings.saves().empty());
+}
+
+TEST_F(LoadTest, FromTheHomePageOnOptionClicksAreStored) {
+  start();
+
+  window.cleanerPage.chkSettings[12].click();
+
+  EXPECT_EQ(desktop.settings.savedKeys(), std::vector<std::string>{"Index12"});
+}
+
+TEST_F(LoadTest, TheWebAddressBoxIsUntickedWhileTheBrowserSuggests) {
+  desktop.registry.put(Root::currentUser, kAutoComplete, "AutoSuggest", "yes");
+
+  start();
+
+  EXPECT_FALSE(window.cleanerPage.chkWebAddress.checked());
+  EXPECT_EQ(desktop.registry.text(Root::currentUser, kAutoComplete, "AutoSuggest"), "yes");
+}
+
+TEST_F(LoadTest, TheWebAddressBoxIsTickedOtherwiseAndItsClickWritesNo) {
+  start();
+
+  EXPECT_TRUE(window.cleanerPage.chkWebAddress.checked());
+  EXPECT_EQ(desktop.registry.text(Root::currentUser, kAutoComplete, "AutoSuggest"), "no");
+}
+
+TEST_F(LoadTest, TheStoredHomePageIsPutBackAtEveryStart) {
+  desktop.settings.put("HomePage", "StartPage", "https://mine.example/");
+  desktop.registry.put(Root::currentUser, kBrowserMain, "Start Page", "https://theirs.example/");
+
+  start();
+
+  EXPECT_EQ(window.cleanerPage.txtHomePageURL.text(), "https://mine.example/");
+  EXPECT_EQ(desktop.registry.text(Root::currentUser, kBrowserMain, "Start Page"),
+            "https://mine.example/");
+}
+
+TEST_F(LoadTest, AStoredStartUpIsShownAndNothingIsWrittenUntilExit) {
+  desktop.settings.put("Options", "StartUp", "1");
+
+  start();
+
+  EXPECT_TRUE(window.mainPage.chkStartup.checked());
+  EXPECT_TRUE(desktop.settings.saves().empty());
+  EXPECT_EQ(desktop.registry.text(Root::currentUser,
+                                  R"(Software\Microsoft\Windows\CurrentVersion\Run)", "Zelvane"),
+            std::nullopt);
+}
+
+struct SpoiltNumber {
+  std::string stored;
+  std::string message;
+
+  friend void PrintTo(const SpoiltNumber& number, std::ostream* out) { *out << number.message; }
+};
+
+class SpoiltStartUpTest : public LoadTest, public testing::WithParamInterface<SpoiltNumber> {};
+
+TEST_P(SpoiltStartUpTest, EndsTheLoadWithItsErrorAndTheLaterStepsAreSkipped) {
+  desktop.settings.put("Options", "StartUp", GetParam().stored);
+
+  start();
+
+  ASSERT_EQ(desktop.dialogs.boxes().size(), 1U);
+  EXPECT_EQ(desktop.dialogs.boxes()[0].text, GetParam().message);
+  EXPECT_EQ(desktop.dialogs.boxes()[0].title, "Zelvane");
+  EXPECT_EQ(window.mainPage.chkStartup.value(), 0);
+  EXPECT_EQ(window.mainPage.lblStatus.caption(), "");
+  // The steps before it stand, and the window is there.
+  EXPECT_EQ(window.cleanerPage.txtHomePageURL.text(), "about:blank");
+  EXPECT_TRUE(window.mainPage.form.visible());
+}
+
+INSTANTIATE_TEST_SUITE_P(EachKind, SpoiltStartUpTest,
+                         testing::Values(SpoiltNumber{"abc", "Error: 13 - Type mismatch"},
+                                         SpoiltNumber{"", "Error: 13 - Type mismatch"},
+                                         SpoiltNumber{"40000", "Error: 6 - Overflow"},
+                                         SpoiltNumber{"7", "Error: 380 - Invalid property value"}));
+
+TEST_F(LoadTest, TheScheduleStartsAppliedAndSoARunIsNotRefused) {
+  start();
+
+  EXPECT_FALSE(window.schedulePage.cmdApply.enabled());
+  EXPECT_FALSE(window.schedulePage.cmdCancel.enabled());
+
+  window.cleanerPage.cmdBasicClean.click();
+  EXPECT_TRUE(window.cleanerPage.rtfMessage.text().ends_with("\r\nDone"));
+}
+
+TEST_F(LoadTest, SettingsThatCannotBeReadAreLikeNoSettings) {
+  desktop.settings.put("HomePage", "StartPage", "https://mine.example/");
+  desktop.settings.refuseEverything();
+
+  start();
+
+  EXPECT_EQ(window.cleanerPage.txtHomePageURL.text(), "about:blank");
+  EXPECT_EQ(window.mainPage.lblStatus.caption(), "Ready");
+}
+
+}  // namespace
+}  // namespace zelvane::main_window

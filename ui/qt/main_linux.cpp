@@ -1,0 +1,91 @@
+// Where ports, window and shell meet on a Linux desktop. It chooses them, and nothing else.
+
+#include "core/main_window/frm_main.h"
+#include "core/main_window/startup.h"
+#include "platform/desktop.h"
+#include "platform/linux/environment.h"
+#include "platform/linux/linux_clock.h"
+#include "platform/linux/linux_files.h"
+#include "platform/linux/linux_folder_tree.h"
+#include "platform/linux/linux_identity.h"
+#include "platform/linux/linux_process_end.h"
+#include "platform/linux/linux_profile_file.h"
+#include "platform/linux/linux_recycle_bin.h"
+#include "platform/linux/linux_registry.h"
+#include "platform/linux/linux_settings.h"
+#include "platform/linux/linux_single_instance.h"
+#include "platform/linux/linux_special_folders.h"
+#include "platform/linux/recently_used.h"
+#include "platform/shared/live_folders.h"
+#include "ui/qt/application.h"
+#include "ui/qt/main_window.h"
+#include "ui/qt/mirror/open_boxes.h"
+#include "ui/qt/qt_clipboard.h"
+#include "ui/qt/qt_dialogs.h"
+#include "ui/qt/qt_event_pump.h"
+#include "ui/qt/qt_window_commands.h"
+
+namespace {
+
+using namespace zelvane;
+
+// The ports of a Linux desktop, in the order in which they stand on each other.
+struct LinuxDesktop {
+  explicit LinuxDesktop(qt::OpenBoxes& boxes) : dialogs(boxes) {}
+
+  const platform::Environment environment = platform::Environment::ofProcess();
+  platform::LinuxIdentity identity{environment};
+  platform::LinuxClock clock;
+  platform::LinuxSettings settings{environment};
+  platform::LinuxRegistry registry{environment};
+  platform::LinuxProfileFile winIni{environment};
+  platform::LinuxSpecialFolders plainFolders{environment};
+  platform::LinuxFolderTree plainTree;
+  platform::RecentlyUsed recentlyUsed{environment};
+  platform::LiveFolders folders{plainFolders, plainTree, {recentlyUsed}};
+  platform::LinuxFiles files;
+  platform::LinuxRecycleBin recycleBin{environment};
+  platform::LinuxSingleInstance instance{environment};
+  platform::LinuxProcessEnd process;
+  qt::QtClipboard clipboard;
+  qt::QtDialogs dialogs;
+  qt::QtWindowCommands window;
+  qt::QtEventPump pump;
+
+  platform::Desktop ports() {
+    return {.identity = identity,
+            .clock = clock,
+            .settings = settings,
+            .registry = registry,
+            .winIni = winIni,
+            .specialFolders = folders,
+            .folderTree = folders,
+            .files = files,
+            .recycleBin = recycleBin,
+            .clipboard = clipboard,
+            .dialogs = dialogs,
+            .window = window,
+            .pump = pump,
+            .instance = instance,
+            .process = process};
+  }
+};
+
+}  // namespace
+
+int main(int, char** arguments) {
+  // The toolkit is given the program's name alone: no argument is ever read.
+  int count = 1;
+  qt::Application application(count, arguments);
+  qt::OpenBoxes boxes;
+  LinuxDesktop desktop(boxes);
+  const platform::Desktop ports = desktop.ports();
+  main_window::frmMain window(ports);
+  qt::MainWindow shell(window, boxes);
+  desktop.dialogs.attach(shell);
+  desktop.window.attach(shell);
+  application.whenToldToQuit([&] { window.mainPage.form.unload(controls::UnloadMode::windows); });
+
+  main_window::GenFunc::Main(ports, window);
+  return qt::Application::exec();
+}

@@ -1,0 +1,21 @@
+// The program's window on the screen: every control of frmMain has its widget here.
+#pragma once
+
+#include "core/main_window/frm_main.h"
+#include "ui/qt/mirror/form_widget.h"
+#include "ui/qt/mirror/open_boxes.h"
+
+namespace zelvane::qt {
+
+// It holds no state and decides nothing. `window` outlives it; `boxes` stops the timers.
+class MainWindow : public FormWidget {
+ public:
+  MainWindow(main_window::frmMain& window, OpenBoxes& boxes);
+
+ private:
+  void layOut(main_window::frmMain& window);
+  void nameByLabels(main_window::frmMain& window);
+  void orderTabKeys(main_window::frmMain& window);
+};
+
+}  // namespace zelvane::qt
