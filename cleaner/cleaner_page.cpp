@@ -23,6 +23,7 @@ CleanerPage::CleanerPage() {
   Command3.setDescription(runsEverything);
   cmdDefaultSettings.setDescription("Sets the usual ticks on this page and on the others.");
   cmdDefaultSettings1.setDescription("Sets the usual ticks on this page.");
+  rtfMessage.setDescription("What a cleaning erased is told here.");
   cmdHomePage.setDescription(
       "Makes this address the browser's start page, now and at every start.");
   txtHomePageURL.setDescription("The address of your home page.");

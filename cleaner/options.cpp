@@ -5,9 +5,9 @@ namespace zelvane::cleaner {
 // "Cashe" and the blank after "Favorites" have been there since the first version and stay.
 constexpr std::array<Option, kOptionCount> kOptions{{
     {"Prevent Sites from improperly changing your Home Page", OptionTab::main, Task::none, "",
-     "Kept for you as you set it. The home page below is put back at every start either way."},
+     "Kept for you as you set it. Your home page is put back at every start either way."},
     {"Clear Windows' secret index.dat file", OptionTab::cleanComputer, Task::none, "",
-     "Kept for you as you set it; today's systems have no such file, so a run does nothing here."},
+     "Kept for you as you set it. Today's systems have no such file; nothing is done."},
     {"Clear Site Addresses", OptionTab::cleanInternet, Task::typedAddresses,
      "Erasing 'Auto Complete' Site Addresses", "Erases the addresses that you typed."},
     {"Clear Recent Files List", OptionTab::cleanInternet, Task::recentFiles, "Erasing Recent Files",
@@ -27,7 +27,7 @@ constexpr std::array<Option, kOptionCount> kOptions{{
     {"Clear Browser History Logs", OptionTab::cleanInternet, Task::history,
      "Erasing Internet History", "Erases the list of the pages that you visited."},
     {"Frees space on your Hard Drive", OptionTab::cleanComputer, Task::none, "",
-     "Kept for you as you set it; every ticked line frees space, this one does nothing more."},
+     "Kept for you as you set it. Every ticked line frees space; this one adds nothing."},
     {"Windows Temp Directories", OptionTab::cleanComputer, Task::temporaryFiles,
      "Erasing Windows Temporary Files",
      "Erases your files in the folder for temporary files. Files in use stay."},

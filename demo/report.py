@@ -9,8 +9,8 @@ _MARKS = {True: "✓", False: "✗"}
 
 
 class Report:
-    """Prints as the demo goes along, and counts the checks. Colours are for terminals; elsewhere the
-    margin names them."""
+    """Prints as the demo goes along, and counts the checks. Colours are for terminals; elsewhere
+    the margin names them."""
 
     def __init__(self):
         self._is_terminal = sys.stdout.isatty()
@@ -32,15 +32,15 @@ class Report:
             self.say("\n".join(f"# {line}" for line in str(otherwise).splitlines()))
 
     def table(self, traces, kept):
-        self.say(f"  {'what goes':34}{'before':>8}{'after':>8}")
+        self.say(f"  {'what goes':38}{'before':>8}{'after':>8}")
         for trace in traces:
-            self.say(f"{self._mark(trace.held)} {trace.title:34}{trace.before:8}{trace.after:8}")
-        self.say(f"\n  {'what stays':34}{'before':>8}{'after':>8}")
+            self.say(f"{self._mark(trace.held)} {trace.title:38}{trace.before:8}{trace.after:8}")
+        self.say(f"\n  {'what stays':38}{'before':>8}{'after':>8}")
         for thing in kept:
             before = len(thing.before.splitlines())
             after = len(thing.after.splitlines())
             told = "" if thing.held else "  changed"
-            self.say(f"{self._mark(thing.held)} {thing.title:34}{before:8}{after:8}{told}")
+            self.say(f"{self._mark(thing.held)} {thing.title:38}{before:8}{after:8}{told}")
 
     def log(self, pieces):
         """Pairs of a text and its colour."""
@@ -60,7 +60,8 @@ class Report:
 
 
 def lines_of(pieces):
-    """The log's lines, each with the colour of its text. The pieces may be cut anywhere."""
+    """The log's lines with the colour of their text, empty ones left out. The pieces may be cut
+    anywhere."""
     lines, text, colour = [], "", OTHER
     for piece, painted in pieces:
         for letter in piece.replace("\r\n", "\n").replace("\u2029", "\n"):
@@ -70,12 +71,12 @@ def lines_of(pieces):
             else:
                 text += letter
                 colour = painted
-    return lines + [(text, colour)]
+    return [line for line in [*lines, (text, colour)] if line[0]]
 
 
 def role_of(colour):
-    """Which of the log's colours "0,0,255" is a shade of; a dark desktop has others than a light one.
-    Toolkits differ in whether "rgb()" is around the numbers."""
+    """Which of the log's colours "0,0,255" is a shade of; a dark desktop has others than a light
+    one. Toolkits differ in whether "rgb()" is around the numbers."""
     numbers = [int(number) for number in re.findall(r"\d+", colour)]
     if len(numbers) != 3:
         return OTHER

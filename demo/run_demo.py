@@ -1,5 +1,5 @@
 #!/usr/bin/python3
-"""Shows Zelvane at work on a desktop, a home and files made for the occasion, and checks the outcome.
+"""Shows Zelvane at work on a desktop, in a home made for the occasion, and checks the outcome.
 
     run_demo.py --program PATH [--keep] [--screenshot FILE]
 
@@ -15,10 +15,10 @@ import tempfile
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tests" / "support"))
 
-from desktop import hive, private_mounts  # noqa: E402
-from desktop.virtual_desktop import Missing, VirtualDesktop  # noqa: E402
-from report import BLACK, BLUE, GREEN, Report, lines_of, role_of  # noqa: E402
-from sample_home import SampleHome  # noqa: E402
+from desktop import hive, private_mounts
+from desktop.virtual_desktop import Missing, VirtualDesktop
+from report import BLACK, BLUE, GREEN, Report, lines_of, role_of
+from sample_home import SampleHome
 
 RECYCLE_BIN = "Clear Recycle Bin"
 IMPOSED_PAGE = "about:blank"
@@ -117,7 +117,7 @@ def check_start(report, home, window):
 
 def tick_boxes(report, sample, window):
     report.heading("Ticking what to erase")
-    wanted = dict.fromkeys((trace.page, trace.option) for trace in sample.traces)
+    wanted = sorted({(trace.page, trace.option) for trace in sample.traces})
     for page, option in wanted:
         window.turn_to(page)
         window.tick(option)
@@ -132,12 +132,13 @@ def show_log(report, window, sample):
     pieces = [(text, role_of(colour)) for text, colour in window.log.coloured_text()]
     report.log(pieces)
     report.say()
-    lines = [line for line in lines_of(pieces) if line[0]]
+    lines = lines_of(pieces)
     starts = {BLUE: ("Path: ", "Erasing "), GREEN: ("Finished ",), BLACK: ("Done",)}
     wrong = [f"{colour}: {text}" for text, colour in lines
              if not text.startswith(starts.get(colour, "none of these"))]
     report.check("The log is blue where work begins, green where it is finished, black at its end",
                  lines and not wrong, "\n".join(wrong))
+    report.check("The log shows its end", window.log.shows_its_end())
     paths = [text.removeprefix("Path: ") for text, _ in lines]
     for place in (sample.documents, sample.temporary):
         report.check(f"The log names {place}", str(place) in (path.rstrip("/") for path in paths),

@@ -21,11 +21,12 @@ DOCUMENTS = {
     "locked folder/contract.txt": 500,
 }
 TEMPORARY = {"build-1234.tmp": 30_000, "installer/step1.bin": 50_000, "installer/step2.bin": 50_000}
+NOTE = "[Trash Info]\nPath={path}\nDeletionDate=2025-05-05T12:00:00\n"
 BOOKMARK = '  <bookmark href="file://{path}" added="2025-06-01T10:00:00Z"/>\n'
 
 
 class SampleHome:
-    """Filled at once. `traces` and `kept` say what to look at; `close` lets go of the open files."""
+    """Filled at once. `traces` and `kept` say what to look at; `close` lets go of open files."""
 
     def __init__(self, home, outside, volume=None):
         self._home = home
@@ -130,8 +131,8 @@ class SampleHome:
         for title, trash in trashes.items():
             files = [_write(trash / "files" / "old plan.txt", 2000),
                      _write(trash / "files" / "folder" / "deep" / "note.txt", 300)]
-            notes = [_write_text(trash / "info" / f"{name}.trashinfo", "[Trash Info]\n"
-                                 f"Path={urllib.parse.quote(name)}\nDeletionDate=2025-05-05T12:00:00\n")
+            notes = [_write_text(trash / "info" / f"{name}.trashinfo",
+                                 NOTE.format(path=urllib.parse.quote(name)))
                      for name in ("old plan.txt", "folder")]
             link = _link(trash / "files" / "link", self._outside / "album")
             trash.chmod(0o700)

@@ -12,6 +12,7 @@ FileSecurityPage::FileSecurityPage() {
   lblSourceDestination[1].labels(txtDestination);
   Label1.labels(txtPassword);
   Label2.labels(txtReenter);
+  pgb.setDescription("How far the packing or unpacking is.");
   // The designer's choice: encrypting. Neither one file nor a folder is chosen yet.
   Option2.setValue(true);
   cmdDecrypt.setEnabled(false);

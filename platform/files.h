@@ -53,7 +53,7 @@ class Files : public Port {
   virtual std::string readWhole(const std::string& path, std::uint64_t limit) const = 0;
 
   // Deletes the file or the link of that name, never what a link leads to, never a folder. The name
-  // is no pattern. Throws fileNotFound or permissionDenied.
+  // is no pattern. Throws fileNotFound, permissionDenied, or accessError for a folder.
   virtual void remove(const std::string& path) = 0;
 
   // A new file in the folder of `target`, readable by its user alone. The folder has to exist.

@@ -43,7 +43,8 @@ class OpenFolder {
   // counts as deleted. Never deletes a folder.
   virtual void removeFile(const std::string& name) = 0;
 
-  // Deletes an empty folder, with the same force. One that is not empty stays, and this throws.
+  // Deletes an empty folder, with the same force. One that is not empty stays, and this throws. One
+  // that is gone already counts as deleted.
   virtual void removeFolder(const std::string& name) = 0;
 };
 

@@ -12,6 +12,7 @@ SchedulePage::SchedulePage() {
   lblDate.labels(dtpScheduleDate);
   lblTime.labels(dtpScheduleTime);
   lblRunAfter.labels(txtHours);
+  udnHours.setDescription("More or fewer hours.");
   cmdApply.setEnabled(false);
   cmdCancel.setEnabled(false);
 }

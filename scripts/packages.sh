@@ -11,6 +11,7 @@ build         ninja-build         command:ninja                      runs it
 build         qt6-base-dev        lib:cmake/Qt6Widgets               the window, and Qt D-Bus
 build         qt6-svg-dev         lib:cmake/Qt6Svg                   draws the program's icon
 build         libqt6svg6          lib:libQt6Svg.so.6                 lets Qt load that icon
+build         libxcb1-dev         header:xcb/xcb.h                   takes a clipboard from its owner
 build         nlohmann-json3-dev  header:nlohmann/json.hpp           reads and writes JSON
 build         fonts-dejavu-core   file:/usr/share/fonts/*            letters, which a small system lacks
 display       xvfb                command:Xvfb                       a display without a screen

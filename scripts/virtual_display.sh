@@ -4,7 +4,10 @@
 set -euo pipefail
 
 if [[ ${1-} != --inside ]]; then
-  exec xvfb-run -a -s "-screen 0 1280x1024x24 -nolisten tcp" dbus-run-session -- "$0" --inside "$@"
+  # Without "-noreset" the display starts over when its last program leaves, and takes along whoever
+  # comes just then.
+  exec xvfb-run -a -s "-screen 0 1280x1024x24 -nolisten tcp -noreset" \
+    dbus-run-session -- "$0" --inside "$@"
 fi
 shift
 

@@ -63,7 +63,7 @@ std::vector<Entry> entriesOf(int folder) {
   // Read through the descriptor itself: readdir's stream would take a second one.
   if (lseek(folder, 0, SEEK_SET) != 0) throwSystemError();
   std::vector<Entry> entries;
-  alignas(dirent64) std::array<char, 64 * 1024> buffer;
+  alignas(dirent64) std::array<char, 65536> buffer;
   for (;;) {
     const ssize_t filled = getdents64(folder, buffer.data(), buffer.size());
     if (filled < 0) throwSystemError();

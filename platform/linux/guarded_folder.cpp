@@ -20,6 +20,7 @@ namespace {
 
 constexpr int kOpenFolder = O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC;
 constexpr mode_t kChange = S_IWUSR | S_IXUSR;
+constexpr std::uint64_t kLongestFacts = 65536;
 
 const char* singleName(const std::string& name) {
   if (name.empty() || name == "." || name == ".." || name.find('/') != std::string::npos) {
@@ -44,7 +45,7 @@ int openBeneath(int folder, const char* name) {
 std::uint64_t mountOf(int descriptor) {
   constexpr std::string_view kLabel = "mnt_id:\t";
   const std::string facts =
-      LinuxFiles().readWhole("/proc/self/fdinfo/" + std::to_string(descriptor), 64 * 1024);
+      LinuxFiles().readWhole("/proc/self/fdinfo/" + std::to_string(descriptor), kLongestFacts);
   const std::size_t label = facts.find(kLabel);
   std::uint64_t mount = 0;
   const char* begin = facts.data() + label + kLabel.size();

@@ -13,16 +13,16 @@ LocalTime LinuxClock::now() const {
 }
 
 LocalTime localTimeAt(std::time_t second) {
-  using namespace std::chrono;
+  namespace chrono = std::chrono;
   tzset();
   std::tm local{};
   localtime_r(&second, &local);
-  const year_month_day date(year(local.tm_year + 1900),
-                            month(static_cast<unsigned>(local.tm_mon + 1)),
-                            day(static_cast<unsigned>(local.tm_mday)));
+  const chrono::year_month_day date(chrono::year(local.tm_year + 1900),
+                                    chrono::month(static_cast<unsigned>(local.tm_mon + 1)),
+                                    chrono::day(static_cast<unsigned>(local.tm_mday)));
   // Zones that count leap seconds have a second 60, which no time of day here has.
-  const seconds timeOfDay =
-      hours(local.tm_hour) + minutes(local.tm_min) + seconds(std::min(local.tm_sec, 59));
+  const auto timeOfDay = chrono::hours(local.tm_hour) + chrono::minutes(local.tm_min) +
+                         chrono::seconds(std::min(local.tm_sec, 59));
   return {date, timeOfDay};
 }
 

@@ -15,7 +15,7 @@
 namespace zelvane::platform {
 namespace {
 
-constexpr std::size_t kChunk = 64 * 1024;
+constexpr std::size_t kChunk = 65536;
 
 // A path through something that is no folder leads to no file either.
 [[noreturn]] void throwForFile() {

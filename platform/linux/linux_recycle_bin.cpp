@@ -12,7 +12,7 @@
 namespace zelvane::platform {
 namespace {
 
-constexpr std::uint64_t kLongestTable = 64 * 1024 * 1024;
+constexpr std::uint64_t kLongestTable = std::uint64_t{64} << 20U;
 
 }  // namespace
 

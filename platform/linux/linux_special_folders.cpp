@@ -15,7 +15,7 @@
 namespace zelvane::platform {
 namespace {
 
-constexpr std::uint64_t kLongestList = 1024 * 1024;
+constexpr std::uint64_t kLongestList = std::uint64_t{1} << 20U;
 
 std::optional<FileIdentity> folderAt(int start, const std::string& path) {
   struct stat status {};

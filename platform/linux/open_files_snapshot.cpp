@@ -17,7 +17,7 @@
 namespace zelvane::platform {
 namespace {
 
-constexpr std::uint64_t kLongestMaps = 64 * 1024 * 1024;
+constexpr std::uint64_t kLongestMaps = std::uint64_t{64} << 20U;
 
 // The ordinary file to which `name` leads. What is known of a file on a network is good enough: one
 // that does not answer must not hold up an erasure elsewhere.

@@ -79,7 +79,7 @@ std::optional<PrivateFile::Content> PrivateFile::contentIn(const Descriptor& fol
   }
   Content content;
   while (content.text.size() <= kLimit) {
-    constexpr std::size_t kChunk = 64 * 1024;
+    constexpr std::size_t kChunk = std::size_t{64} * 1024;
     const std::size_t before = content.text.size();
     content.text.resize(before + kChunk);
     const ssize_t count = ::read(file.get(), content.text.data() + before, kChunk);

@@ -11,10 +11,11 @@
 namespace zelvane::platform {
 
 // The file lies in a private folder (see private_folder.h) and is readable by its user alone. It is
-// never read or written through a link. Every failure is thrown with a text that names the file.
+// never read or written through a link. What is refused is refused with a text that names the file.
 class PrivateFile {
  public:
-  static constexpr std::uint64_t kLimit = 16 * 1024 * 1024;  // bytes; more is refused
+  // In bytes; a file that is larger is refused.
+  static constexpr std::uint64_t kLimit = std::uint64_t{16} * 1024 * 1024;
 
   // Touches nothing yet. Neither folder nor file needs to exist.
   PrivateFile(std::string folder, std::string name);

@@ -14,7 +14,7 @@
 namespace zelvane::platform {
 namespace {
 
-constexpr std::uint64_t kLongestList = 64 * 1024 * 1024;
+constexpr std::uint64_t kLongestList = std::uint64_t{64} << 20U;
 
 constexpr const char* kEmptyList =
     "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n"

@@ -54,11 +54,8 @@ void TrashFolder::emptyFiles(GuardedFolder* notes) {
   if (!trash_.facts("files")) return;
   const std::unique_ptr<GuardedFolder> files = trash_.openSubfolder("files");
   for (const Entry& entry : files->entries()) {
-    if (!erase(*files, entry)) {
-      refused_ = true;
-    } else if (notes != nullptr && !tried([&] { notes->removeFile(noteOf(entry.name)); })) {
-      refused_ = true;
-    }
+    const auto eraseNote = [&] { notes->removeFile(noteOf(entry.name)); };
+    if (!erase(*files, entry) || (notes != nullptr && !tried(eraseNote))) refused_ = true;
   }
   // Asked again and not remembered: something may have been put there meanwhile.
   for (const Entry& entry : files->entries()) keptNotes_.insert(noteOf(entry.name));

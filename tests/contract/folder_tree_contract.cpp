@@ -224,10 +224,11 @@ TEST_P(FolderTreeContract, AFileInUseKeepsItsFolder) {
   EXPECT_FALSE(bed->has("folder/free"));
 }
 
-TEST_P(FolderTreeContract, AFileThatIsGoneAlreadyCountsAsDeleted) {
+TEST_P(FolderTreeContract, WhatIsGoneAlreadyCountsAsDeleted) {
   const auto root = openRoot();
 
   EXPECT_NO_THROW(root->removeFile("nothing"));
+  EXPECT_NO_THROW(root->removeFolder("nothing"));
 }
 
 TEST_P(FolderTreeContract, RemoveFileNeverDeletesAFolder) {

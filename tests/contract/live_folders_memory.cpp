@@ -13,7 +13,6 @@ using platform::LiveFolder;
 using platform::LiveFolders;
 using platform::LiveSource;
 using platform::LiveStore;
-using platform::MemoryFileSystem;
 using platform::MemorySpecialFolders;
 using platform::SpecialFolder;
 using Names = std::vector<std::string>;

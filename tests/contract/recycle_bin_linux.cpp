@@ -7,6 +7,7 @@
 #include "platform/error.h"
 #include "platform/linux/linux_recycle_bin.h"
 #include "platform/linux/mounted_volumes.h"
+#include "platform/linux/trash_places.h"
 #include "tests/contract/private_mounts_linux.h"
 #include "tests/contract/recycle_bin_contract.h"
 #include "tests/support/throw_away_environment.h"
@@ -263,6 +264,20 @@ TEST(LinuxRecycleBin, AMountedVolumesTrashIsEmptiedAndAMountInsideItIsNotEntered
 
   EXPECT_FALSE(folder.has(trash + "/files/a.txt"));
   EXPECT_TRUE(folder.has("precious/file"));
+}
+
+// Only a folder of another user's, put in the trash's place by a mount, shows this to everybody.
+TEST(TrashPlaces, AMountedFolderOfAnotherUserIsNone) {
+  const ThrowAwayFolder folder;
+  PrivateMounts mounts;
+  if (!mounts.whyNot().empty()) GTEST_SKIP() << mounts.whyNot();
+  const std::string place = folder / (".Trash-" + kUser);
+  fs::create_directory(place);
+  ASSERT_EQ(platform::openTrashPlaces(folder / "share", {folder.path().string()}).size(), 1U);
+
+  if (chown(place.c_str(), 4242, 4242) != 0) mounts.mountAgain("/usr", place);
+
+  EXPECT_TRUE(platform::openTrashPlaces(folder / "share", {folder.path().string()}).empty());
 }
 
 TEST(MountedVolumes, AreTheMountPointsOfTheTableWithTheirNamesDecoded) {

@@ -9,6 +9,7 @@
 
 #include "platform/error.h"
 #include "platform/linux/linux_settings.h"
+#include "platform/linux/private_file.h"
 #include "tests/contract/child_process_linux.h"
 #include "tests/contract/settings_contract.h"
 #include "tests/support/throw_away_environment.h"
@@ -228,18 +229,19 @@ TEST_F(LinuxSettingsTest, SettingAsideNeverTakesANameThatExists) {
 
 TEST_F(LinuxSettingsTest, AFileThatIsTooBigIsNeverReadInAndIsSetAside) {
   home.write(kFile, R"({"format":1})");
-  fs::resize_file(home / kFile, 16 * 1024 * 1024 + 1);
+  fs::resize_file(home / kFile, platform::PrivateFile::kLimit + 1);
 
   EXPECT_THROW(save("7"), Error);
   EXPECT_EQ(saved(), std::nullopt);
   EXPECT_NE(settings.check(), std::nullopt);
-  EXPECT_EQ(fs::file_size(home / (std::string(kFile) + ".set-aside-1")), 16 * 1024 * 1024 + 1);
+  EXPECT_EQ(fs::file_size(home / (std::string(kFile) + ".set-aside-1")),
+            platform::PrivateFile::kLimit + 1);
 }
 
 TEST_F(LinuxSettingsTest, AValueThatWouldMakeTheFileTooBigIsRefusedAndLosesNothing) {
   save("7");
 
-  EXPECT_THROW(save(std::string(16 * 1024 * 1024, 'x')), Error);
+  EXPECT_THROW(save(std::string(platform::PrivateFile::kLimit, 'x')), Error);
   EXPECT_EQ(saved(), "7");
 }
 

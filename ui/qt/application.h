@@ -1,9 +1,8 @@
 // The toolkit's application object, and what the end of the session means to it.
 #pragma once
 
-#include <functional>
-
 #include <QApplication>
+#include <functional>
 
 namespace zelvane::qt {
 

@@ -8,8 +8,7 @@
 
 namespace zelvane::qt {
 
-CleanComputerTab::CleanComputerTab(cleaner::CleanerPage& page, QWidget& parent)
-    : QWidget(&parent) {
+CleanComputerTab::CleanComputerTab(cleaner::CleanerPage& page, QWidget& parent) : QWidget(&parent) {
   constexpr std::size_t kMyDocuments = 4;
   auto* traces = new Card(*this);
   for (const std::size_t index : cleaner::kComputerOrder) {

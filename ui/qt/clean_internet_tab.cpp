@@ -9,10 +9,10 @@
 
 namespace zelvane::qt {
 
-CleanInternetTab::CleanInternetTab(cleaner::CleanerPage& page, QWidget& parent)
-    : QWidget(&parent) {
+CleanInternetTab::CleanInternetTab(cleaner::CleanerPage& page, QWidget& parent) : QWidget(&parent) {
   using Harm = OptionRow::Harm;
   auto* frame = new FrameWidget(page.fmSettings, *this);
+  frame->setAccessibleName("Traces of browsing");
 
   // The bookmarks stand apart from what is erased every day: set in, on their own.
   auto* favorites = new Card(*frame);

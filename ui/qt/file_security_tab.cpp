@@ -1,10 +1,9 @@
 #include "ui/qt/file_security_tab.h"
 
-#include <initializer_list>
-
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QVBoxLayout>
+#include <initializer_list>
 
 #include "ui/qt/layouts.h"
 #include "ui/qt/mirror/button_widget.h"

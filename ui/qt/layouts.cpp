@@ -24,6 +24,8 @@ QScrollArea* scrollable(QWidget& page) {
   auto* area = new QScrollArea(page.parentWidget());
   area->setFrameShape(QFrame::NoFrame);
   area->setWidgetResizable(true);
+  // The controls on it take the keys, and it follows them; a stop at the area itself says nothing.
+  area->setFocusPolicy(Qt::NoFocus);
   area->setWidget(&page);
   return area;
 }

@@ -1,8 +1,11 @@
 #include "ui/qt/main_window.h"
 
 #include <QLabel>
+#include <QScreen>
 #include <QScrollArea>
+#include <QTabBar>
 #include <QVBoxLayout>
+#include <algorithm>
 
 #include "ui/qt/clean_computer_tab.h"
 #include "ui/qt/clean_internet_tab.h"
@@ -29,6 +32,33 @@ void nameAloud(QWidget& widget, const QString& name) {
       part->setAccessibleName(name);
     }
   }
+}
+
+// What lets every page be seen whole, and every tab.
+QSize roomFor(const QTabWidget& tabs) {
+  QSize room = tabs.tabBar()->sizeHint();
+  for (int page = 0; page < tabs.count(); ++page) {
+    const auto* area = static_cast<const QScrollArea*>(tabs.widget(page));
+    room = room.expandedTo(area->widget()->sizeHint());
+  }
+  for (int page = 0; page < tabs.count(); ++page) {
+    const QWidget* content = static_cast<const QScrollArea*>(tabs.widget(page))->widget();
+    if (content->hasHeightForWidth()) {
+      room.setHeight(std::max(room.height(), content->heightForWidth(room.width())));
+    }
+  }
+  return room;
+}
+
+// The box inside an up-down has its place with it. Ordering it as well makes the toolkit's chain a
+// loop that leaves out the rest, in which the next press of the tab key never ends.
+bool isInsideItsProxy(const QWidget& widget) {
+  return widget.focusProxy() != nullptr && widget.focusProxy()->isAncestorOf(&widget);
+}
+
+bool isTabStop(const QWidget& widget) {
+  const QWidget& stop = widget.focusProxy() == nullptr ? widget : *widget.focusProxy();
+  return (stop.focusPolicy() & Qt::TabFocus) != 0 && !isInsideItsProxy(widget);
 }
 
 }  // namespace
@@ -61,13 +91,18 @@ void MainWindow::layOut(main_window::frmMain& window) {
   }
 
   auto* status = new LineWidget(window.mainPage.lblStatus, *this);
-  status->setMargin(smallGap(*this));
+  status->setContentsMargins(largeGap(*this), smallGap(*this), largeGap(*this), smallGap(*this));
 
-  auto* column = new QVBoxLayout(this);
+  auto* body = new QWidget(this);
+  setCentralWidget(body);
+  auto* column = new QVBoxLayout(body);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(0);
   column->addWidget(tabs, 1);
   column->addWidget(status);
+
+  const QSize chrome(0, tabs->tabBar()->sizeHint().height() + status->sizeHint().height());
+  resize((roomFor(*tabs) + chrome).boundedTo(screen()->availableSize() * 0.9));
 }
 
 void MainWindow::nameByLabels(main_window::frmMain& window) {
@@ -90,7 +125,8 @@ void MainWindow::orderTabKeys(main_window::frmMain& window) {
   for (const auto& page : window.tabPages()) {
     for (const controls::Control* control : page) {
       auto* widget = findChild<QWidget*>(QString::fromStdString(control->name()));
-      if (widget == nullptr) {
+      // An order with a label in it, which is no stop, would be passed over by the toolkit.
+      if (widget == nullptr || !isTabStop(*widget)) {
         continue;
       }
       if (before != nullptr) {

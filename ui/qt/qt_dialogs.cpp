@@ -54,8 +54,8 @@ std::optional<std::string> ask(QFileDialog& dialog) {
 
 // The toolkit's own dialog on every desktop: those of some desktops add an extension, insist on a
 // file that exists, or enter what was chosen into the list of recent documents, which is one of the
-// traces that this program erases. The toolkit's keeps its history in a settings file; a folder that
-// cannot exist leaves it none.
+// traces that this program erases. The toolkit's keeps its history in a settings file; a folder
+// that cannot exist leaves it none.
 QtDialogs::QtDialogs(OpenBoxes& boxes) : boxes_(boxes) {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 }

@@ -1,8 +1,8 @@
 #include "ui/qt/qt_event_pump.h"
 
-#include <time.h>
-
 #include <QCoreApplication>
+
+#include <time.h>
 
 namespace zelvane::qt {
 
@@ -10,8 +10,8 @@ namespace {
 
 constexpr std::int64_t kPause = 8;  // milliseconds
 
-// The clock that the kernel updates at each of its ticks: reading it takes nanoseconds, where asking
-// the toolkit for events takes a microsecond, a fifth of the time of erasing a file.
+// The clock that the kernel updates at each of its ticks: reading it takes nanoseconds, where
+// asking the toolkit for events takes a microsecond, a fifth of the time of erasing a file.
 std::int64_t coarseTime() {
   timespec now{};
   clock_gettime(CLOCK_MONOTONIC_COARSE, &now);

@@ -1,8 +1,8 @@
 #!/usr/bin/python3
-"""The window's close box. As long as the program has no icon in the notification area, it minimises."""
+"""The close box. As long as the program has no icon in the notification area, it minimises."""
 
-import support  # noqa: F401
-from desktop import checks
+from support import checks
+
 from desktop.waiting import wait_until
 
 

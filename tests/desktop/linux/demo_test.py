@@ -7,8 +7,7 @@ import subprocess
 import sys
 import tempfile
 
-from support import ROOT
-from desktop import checks
+from support import ROOT, checks
 
 LONGEST = 120  # seconds; it takes a tenth of that
 

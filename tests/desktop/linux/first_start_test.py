@@ -1,8 +1,9 @@
 #!/usr/bin/python3
 """The program's first start in a home that has never seen it."""
 
-import support  # noqa: F401
-from desktop import checks, hive
+from support import checks
+
+from desktop import hive
 from desktop.window import TITLE
 
 TICKED = {

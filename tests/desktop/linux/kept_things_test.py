@@ -1,8 +1,9 @@
 #!/usr/bin/python3
 """What a cleaning leaves alone."""
 
-import support  # noqa: F401
-from desktop import checks, private_mounts, processes
+from support import checks
+
+from desktop import private_mounts, processes
 
 DOCUMENTS = "Clear My Documents Files"
 RECYCLE_BIN = "Clear Recycle Bin"

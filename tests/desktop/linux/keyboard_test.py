@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """The window without a pointer."""
 
-import support  # noqa: F401
-from desktop import checks
+from support import checks
+
 from desktop.accessible import AREA, CHECK_BOX, FRAME, TAB, TEXT
 from desktop.waiting import wait_until
 

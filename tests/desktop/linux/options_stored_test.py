@@ -1,8 +1,8 @@
 #!/usr/bin/python3
 """The ticks between two starts."""
 
-import support  # noqa: F401
-from desktop import checks
+from support import checks
+
 from desktop.accessible import CHECK_BOX
 from desktop.waiting import wait_until
 from desktop.window import CLEANING_PAGES

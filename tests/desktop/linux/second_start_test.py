@@ -1,8 +1,7 @@
 #!/usr/bin/python3
 """A second start while the program runs."""
 
-import support  # noqa: F401
-from desktop import checks
+from support import checks
 
 
 def a_second_start_says_that_the_program_runs_and_ends(bed):

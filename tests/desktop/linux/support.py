@@ -6,3 +6,7 @@ import sys
 sys.dont_write_bytecode = True
 ROOT = pathlib.Path(__file__).resolve().parents[3]
 sys.path.insert(0, str(ROOT / "tests" / "support"))
+
+from desktop import checks
+
+__all__ = ["ROOT", "checks"]

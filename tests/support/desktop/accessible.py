@@ -3,9 +3,9 @@
 import gi
 
 gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi, GLib  # noqa: E402
+from gi.repository import Atspi, GLib
 
-from desktop.waiting import PATIENCE, wait_until  # noqa: E402
+from desktop.waiting import PATIENCE, wait_until
 
 # The bus's words for what a control is.
 AREA = "filler"
@@ -14,6 +14,7 @@ CHECK_BOX = "check box"
 DIALOG = ("dialog", "alert")
 FRAME = "frame"  # which is what it calls a window
 LABEL = "label"
+SCROLL_BAR = "scroll bar"
 TAB = "page tab"
 TEXT = "text"
 
@@ -34,10 +35,6 @@ class Part:
     @property
     def role(self):
         return self._accessible.get_role_name()
-
-    @property
-    def description(self):
-        return self._accessible.get_description() or ""
 
     def parts(self):
         """Everything inside that is showing, in the window's order."""
@@ -111,12 +108,9 @@ class Part:
     def text(self):
         return Atspi.Text.get_text(self._accessible, 0, -1)
 
-    def set_text(self, text):
-        Atspi.EditableText.set_text_contents(self._accessible, text)
-
     def coloured_text(self):
-        """Its text in pieces of one colour each: pairs of a text and what the bus says of the colour,
-        as in "0,0,255" (red, green, blue); an empty text where it says nothing."""
+        """Its text in pieces of one colour each: pairs of a text and what the bus says of the
+        colour, as in "0,0,255" (red, green, blue); an empty text where it says nothing."""
         length, at, pieces = Atspi.Text.get_character_count(self._accessible), 0, []
         while at < length:
             attributes, _, end = Atspi.Text.get_attribute_run(self._accessible, at, True)
@@ -125,6 +119,13 @@ class Part:
                            attributes.get("fg-color", "")))
             at = end
         return pieces
+
+    def shows_its_end(self):
+        """Whether what can be scrolled in it is scrolled. Where a letter is cannot be asked: Qt 6.4
+        answers for the letter's line alone."""
+        bars = [bar._accessible for bar in self.all(SCROLL_BAR)]
+        return all(Atspi.Value.get_current_value(bar) == Atspi.Value.get_maximum_value(bar)
+                   for bar in bars)
 
     def centre(self):
         """Where on the screen a pointer would meet it."""

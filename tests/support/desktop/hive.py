@@ -1,4 +1,4 @@
-"""The registry of the program's own, as its file holds it: registry.json, JSON with a format number.
+"""The registry of the program's own, as its file holds it: registry.json.
 
     { "format": 1, "currentUser": KEY, ... }
     KEY:    { "keys": { name: KEY, ... }, "values": { name: VALUE, ... } }
@@ -20,8 +20,8 @@ def path_of(home):
 
 
 def write(home, keys):
-    """Writes a whole hive. `keys` are dictionaries of texts by the path of their key below the current
-    user's root."""
+    """Writes a whole hive. `keys` are dictionaries of texts by the path of their key below the
+    current user's root."""
     root = {}
     for path, texts in keys.items():
         key = root

@@ -2,9 +2,9 @@
 
 A program that empties the trash of every mounted volume must never meet the machine's own. So the
 desktop enters a user and mount namespace (a plain user may, where the system allows it), and there
-lays an empty file system over each trash folder that is not the home's. The same right gives a second
-volume to try the program on. The user's number stays what it is, and programs started from here have
-no more rights than before: an exec drops them.
+lays an empty file system over each trash folder that is not the home's. The same right gives a
+second volume to try the program on. The user's number stays what it is, and programs that a plain
+user starts from here have no more rights than before: an exec drops them.
 """
 
 import ctypes
@@ -20,8 +20,8 @@ _libc = ctypes.CDLL(None, use_errno=True)
 
 
 def enter():
-    """Enters the namespace. False where the system does not allow it; then nothing has changed. To be
-    called before the first thread starts."""
+    """Enters the namespace. False where the system does not allow it; then nothing has changed. To
+    be called before the first thread starts."""
     user, group = os.getuid(), os.getgid()
     if not _tried_in_a_child():
         return False
@@ -71,7 +71,7 @@ def _is_folder(path):
 
 
 def _tried_in_a_child():
-    """A system may allow the namespace and then refuse the mounts; there is no way back from that."""
+    """A system may allow the namespace and refuse the mounts; there is no way back from that."""
     child = os.fork()
     if child == 0:
         try:

@@ -13,6 +13,7 @@ class Program:
 
     def __init__(self, path, desktop, home):
         self._desktop = desktop
+        self._home = home
         self._log = open(home.runtime / "program.log", "ab")
         self._process = processes.start(
             [str(path)], env=desktop.environment(home), cwd=home.home,
@@ -38,7 +39,7 @@ class Program:
         def shown():
             for part in self._application().children():
                 if part.name == TITLE and part.is_showing:
-                    return Window(part, self.pid, self._desktop)
+                    return Window(part, self.pid, self._home, self._desktop)
             return None
         return wait_for(shown, f"the program shows its window \"{TITLE}\"")
 

@@ -41,8 +41,8 @@ def missing():
 
 
 class VirtualDesktop:
-    """One a process, because a process has one environment and one accessibility bus. Everything that
-    is started here finds its files below `place`, a folder that goes with the desktop."""
+    """One a process, because a process has one environment and one accessibility bus. Everything
+    that is started here finds its files below `place`, a folder that goes with the desktop."""
 
     def __init__(self, keep=False):
         self._keep = keep
@@ -56,7 +56,7 @@ class VirtualDesktop:
     def __enter__(self):
         if lacking := missing():
             raise Missing("Please install: " + " ".join(lacking))
-        for number in (signal.SIGTERM, signal.SIGHUP):
+        for number in (signal.SIGINT, signal.SIGTERM, signal.SIGHUP):
             signal.signal(number, lambda number, frame: sys.exit(128 + number))
         processes.adopt_orphans()
         with contextlib.ExitStack() as rest:
@@ -105,7 +105,8 @@ class VirtualDesktop:
         _write_authority(authority)
         self._environment = {"XAUTHORITY": str(authority), "QT_QPA_PLATFORM": "xcb",
                              "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "NO_AT_BRIDGE": "1"}
-        # Without "-noreset" it starts over when its last client leaves, and takes along who comes then.
+        # Without "-noreset" it starts over when its last client leaves, and takes along whoever
+        # comes just then.
         number = self._answer_of(
             lambda out: ["Xvfb", "-displayfd", str(out), "-screen", "0", "1280x1024x24",
                          "-nolisten", "tcp", "-noreset", "-auth", str(authority)], home, log)

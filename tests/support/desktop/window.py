@@ -2,21 +2,24 @@
 
 import subprocess
 
+from desktop import settings
 from desktop.accessible import AREA, BUTTON, CHECK_BOX, LABEL, TAB, TEXT, wait_for
 from desktop.waiting import PATIENCE
 
 TITLE = "Zelvane v1.0"
 PAGES = ("Main", "Clean Internet", "Clean Computer", "Popup Killer", "File Security", "Schedule")
 CLEANING_PAGES = ("Clean Internet", "Clean Computer")
+RECYCLE_BIN = ("Settings", "Index5")  # where its tick is stored
 CLEAN = "Clean Computer and Internet"
 
 
 class Window:
     """Every search starts at the window anew, and waits for what it looks for."""
 
-    def __init__(self, frame, pid, desktop):
+    def __init__(self, frame, pid, home, desktop):
         self._frame = frame
         self._pid = pid
+        self._home = home
         self._desktop = desktop
 
     @property
@@ -102,6 +105,7 @@ class Window:
     def clean(self):
         """Presses the big button, waits for the end of the run, and returns the log's text. Once in
         a program's life: nothing tells the end of a second run from that of the first."""
+        self._refuse_to_empty_real_trash()
         self.turn_to("Main")
         self.press(CLEAN)
         wait_for(lambda: self.log.text().endswith("\nDone"), "the log ends with \"Done\"")
@@ -109,8 +113,8 @@ class Window:
         return self.log.text()
 
     def focused(self):
-        """What the next key goes to, or None. Qt 6.4 says so of the current tab at all times, and of
-        the plain areas around and inside the one that is meant."""
+        """What the next key goes to, or None. Qt 6.4 says so of the current tab at all times, and
+        of the plain areas around and inside the one that is meant."""
         parts = [part for part in self.parts() if part.role != TAB and part.is_focused]
         return next((part for part in parts if part.role != AREA), parts[-1] if parts else None)
 
@@ -124,6 +128,12 @@ class Window:
         subprocess.run(["xdotool", "windowactivate", str(self.number)], check=True,
                        timeout=PATIENCE)
         wait_for(lambda: self._frame.is_active, "the window has the keys")
+
+    def _refuse_to_empty_real_trash(self):
+        # What the program has stored is believed here, not what its window shows.
+        if not self._desktop.hides_foreign_trash:
+            wait_for(lambda: settings.stored(self._home, *RECYCLE_BIN) == "0",
+                     "the recycle bin is stored as not to be emptied, with real trash within reach")
 
     @property
     def is_on_screen(self):

@@ -26,6 +26,13 @@ CheckBoxWidget::CheckBoxWidget(controls::CheckBox& control, QWidget& parent)
     setText(QString::fromStdString(control.caption()));
     setCheckState(stateOf(control.value()));
   });
+  // A screen reader turns the box itself, without a click.
+  connect(this, &QCheckBox::stateChanged, this, [this, &control](int state) {
+    if (state != stateOf(control.value())) {
+      control.click();
+      setCheckState(stateOf(control.value()));
+    }
+  });
 }
 
 }  // namespace zelvane::qt

@@ -9,7 +9,7 @@
 namespace zelvane::qt {
 
 FormWidget::FormWidget(controls::Form& control, QWidget* parent, Qt::WindowFlags flags)
-    : QWidget(parent, flags), control_(control) {
+    : QMainWindow(parent, flags), control_(control) {
   setObjectName(QString::fromStdString(control.name()));
   follow(control, *this, [this] { showControl(); });
 }
@@ -32,7 +32,7 @@ bool FormWidget::event(QEvent* event) {
   if (event->type() == QEvent::WindowActivate) {
     control_.activated.raise();
   }
-  return QWidget::event(event);
+  return QMainWindow::event(event);
 }
 
 void FormWidget::closeEvent(QCloseEvent* event) {
@@ -40,7 +40,7 @@ void FormWidget::closeEvent(QCloseEvent* event) {
 }
 
 void FormWidget::changeEvent(QEvent* event) {
-  QWidget::changeEvent(event);
+  QMainWindow::changeEvent(event);
   if (event->type() == QEvent::WindowStateChange) {
     control_.setState(isMinimized() ? controls::Form::State::minimised
                                     : controls::Form::State::normal);
@@ -49,14 +49,14 @@ void FormWidget::changeEvent(QEvent* event) {
 
 // A spontaneous one is the desktop's: the window went to another desktop or is minimised.
 void FormWidget::showEvent(QShowEvent* event) {
-  QWidget::showEvent(event);
+  QMainWindow::showEvent(event);
   if (!event->spontaneous()) {
     control_.setVisible(true);
   }
 }
 
 void FormWidget::hideEvent(QHideEvent* event) {
-  QWidget::hideEvent(event);
+  QMainWindow::hideEvent(event);
   if (!event->spontaneous()) {
     control_.setVisible(false);
   }

@@ -35,8 +35,8 @@ LineWidget::LineWidget(controls::Label& control, QWidget& parent) : QLabel(&pare
 }
 
 QSize LineWidget::sizeHint() const {
-  return {fontMetrics().horizontalAdvance(text()) + 2 * margin(),
-          fontMetrics().height() + 2 * margin()};
+  return QSize(fontMetrics().horizontalAdvance(text()), fontMetrics().height())
+      .grownBy(contentsMargins());
 }
 
 QSize LineWidget::minimumSizeHint() const {

@@ -14,6 +14,12 @@ OptionButtonWidget::OptionButtonWidget(controls::OptionButton& control, QWidget&
     setChecked(control.value());
     setAutoExclusive(true);
   });
+  // A screen reader turns the button itself, without a click.
+  connect(this, &QRadioButton::toggled, this, [&control](bool on) {
+    if (on && !control.value()) {
+      control.click();
+    }
+  });
 }
 
 }  // namespace zelvane::qt

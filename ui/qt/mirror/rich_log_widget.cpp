@@ -51,6 +51,16 @@ RichLogWidget::RichLogWidget(controls::RichLog& control, QWidget& parent)
   setTabChangesFocus(true);
   setPlaceholderText(QString::fromStdString(control.description()));
   mirrorControl(control, *this);
+  // A line that is added may bring the scroll bar, which makes room narrower and the text longer: only
+  // the bar's own range tells where the end is at last.
+  QScrollBar* bar = verticalScrollBar();
+  connect(bar, &QScrollBar::valueChanged, this,
+          [this, bar](int value) { atEnd_ = value == bar->maximum(); });
+  connect(bar, &QScrollBar::rangeChanged, this, [this, bar](int, int end) {
+    if (atEnd_) {
+      bar->setValue(end);
+    }
+  });
   control.cleared.connect([this, alive = QPointer<QObject>(this)] {
     if (alive) {
       forget();
@@ -82,7 +92,6 @@ void RichLogWidget::showNewRuns() {
   if (shown_ == control_.runs().size()) {
     return;
   }
-  const bool atEnd = verticalScrollBar()->value() == verticalScrollBar()->maximum();
   QTextCursor end(document());
   end.movePosition(QTextCursor::End);
   for (; shown_ < control_.runs().size(); ++shown_) {
@@ -93,9 +102,6 @@ void RichLogWidget::showNewRuns() {
   }
   QTextBlock first = document()->firstBlock();
   first.setVisible(first.length() > 1 || !first.next().isValid());
-  if (atEnd) {
-    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
-  }
 }
 
 }  // namespace zelvane::qt

@@ -27,6 +27,7 @@ class RichLogWidget : public QPlainTextEdit {
   void showNewRuns();
 
   const controls::RichLog& control_;
+  bool atEnd_ = true;      // the last line is in view, and those that follow shall be
   std::size_t shown_ = 0;  // how many of the control's pieces are on the screen
 };
 
