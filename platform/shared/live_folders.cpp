@@ -23,9 +23,23 @@ class LiveRoot : public OpenFolder {
   std::unique_ptr<OpenFolder> open_;
 };
 
+// Whoever asks for a special folder's path takes one of 254 characters at most, and a longer one
+// for none. A user with many profiles has more places than that.
+constexpr std::size_t kLongestText = 254;
+
+// As many places as there is room for, and how many more there are.
 std::string joined(const std::vector<std::string>& places) {
   std::string text;
-  for (const std::string& place : places) text += (text.empty() ? "" : ", ") + place;
+  for (std::size_t named = 0; named < places.size(); ++named) {
+    const std::string next = (text.empty() ? "" : ", ") + places[named];
+    const std::size_t left = places.size() - named - 1;
+    const std::string rest = left == 0 ? "" : " and " + std::to_string(left) + " more";
+    if (text.size() + next.size() + rest.size() > kLongestText) {
+      return text.empty() ? std::to_string(places.size()) + " places"
+                          : text + " and " + std::to_string(left + 1) + " more";
+    }
+    text += next;
+  }
   return text;
 }
 

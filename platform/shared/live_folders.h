@@ -32,6 +32,7 @@ class LiveFolders : public SpecialFolders, public FolderTree {
   // All of them are borrowed for the lifetime of this object.
   LiveFolders(const SpecialFolders& folders, FolderTree& tree, Sources sources);
 
+  // Where the places are too many for a path, the text says how many more there are.
   std::optional<std::string> path(SpecialFolder folder) const override;
   std::optional<std::string> temporaryPath() const override { return folders_.temporaryPath(); }
   std::unique_ptr<OpenFolder> openRoot(const std::string& path) override;

@@ -196,6 +196,43 @@ TEST_F(LiveFoldersTest, AFolderToWhichNothingIsContributedIsTheDesktopsOwn) {
   EXPECT_EQ(openRoot()->list().files, Names{"file"});
 }
 
+// Contributes a store in each of many places.
+class ManyPlaces : public LiveSource {
+ public:
+  explicit ManyPlaces(std::vector<std::string> places) : places_(std::move(places)) {}
+
+  void find(SpecialFolder folder, LiveFinding& finding) const override {
+    if (folder != SpecialFolder::recent) return;
+    for (const std::string& place : places_) {
+      finding.places.push_back(place);
+      finding.folder.addStore("visits", std::make_unique<MemoryStore>(memory_));
+    }
+  }
+
+ private:
+  std::vector<std::string> places_;
+  mutable Memory memory_{.entries = 1};
+};
+
+TEST_F(LiveFoldersTest, MorePlacesThanAPathHasRoomForAreCountedAndAllErased) {
+  const ManyPlaces many(std::vector<std::string>(40, "/home/user/" + std::string(40, 'x')));
+  LiveFolders live(bed.folders, bed.tree.tree(), {many});
+
+  const std::string path = live.path(SpecialFolder::recent).value();
+
+  EXPECT_LE(path.size(), 254U);
+  EXPECT_TRUE(path.ends_with("x and 36 more")) << path;
+  EXPECT_EQ(live.openRoot(path)->list().files.size(), 40U);
+}
+
+TEST_F(LiveFoldersTest, APlaceThatIsTooLongByItselfIsCounted) {
+  const ManyPlaces deep({"/" + std::string(300, 'x'), "/short"});
+  LiveFolders live(bed.folders, bed.tree.tree(), {deep});
+
+  EXPECT_EQ(live.path(SpecialFolder::recent), "2 places");
+  EXPECT_EQ(live.openRoot("2 places")->list().files.size(), 2U);
+}
+
 TEST_F(LiveFoldersTest, AFolderWhoseSourcesAreGoneCannotBeOpened) {
   bed.addStore();
   const std::string path = bed.live().path(SpecialFolder::recent).value();

@@ -94,6 +94,7 @@ QLayout* MainTab::makeRun(main_window::frmMain& window) {
 QWidget* MainTab::makeHomePage(cleaner::CleanerPage& page) {
   auto* card = new Card(*this);
   auto* line = new QHBoxLayout;
+  line->setSpacing(smallGap(*this));
   line->addWidget(new TextBoxWidget(page.txtHomePageURL, *card), 1);
   line->addWidget(new ButtonWidget(page.cmdHomePage, *card));
   card->add(*line);

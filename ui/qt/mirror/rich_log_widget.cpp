@@ -51,8 +51,8 @@ RichLogWidget::RichLogWidget(controls::RichLog& control, QWidget& parent)
   setTabChangesFocus(true);
   setPlaceholderText(QString::fromStdString(control.description()));
   mirrorControl(control, *this);
-  // A line that is added may bring the scroll bar, which makes room narrower and the text longer: only
-  // the bar's own range tells where the end is at last.
+  // A line that is added may bring the scroll bar, which makes the text narrower and so longer:
+  // only the bar's own range tells where the end is at last.
   QScrollBar* bar = verticalScrollBar();
   connect(bar, &QScrollBar::valueChanged, this,
           [this, bar](int value) { atEnd_ = value == bar->maximum(); });
