@@ -2,7 +2,9 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
+#include <exception>
 #include <stdexcept>
 
 #include <linux/capability.h>
@@ -32,7 +34,8 @@ ChildProcess::ChildProcess(const std::function<void(const Say&)>& body) {
     close(ends[0]);
     try {
       body([&](const std::string& line) { writeLine(ends[1], line); });
-    } catch (...) {
+    } catch (const std::exception& error) {
+      std::fprintf(stderr, "second process: %s\n", error.what());
       _exit(70);
     }
     _exit(0);

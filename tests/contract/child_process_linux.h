@@ -14,7 +14,7 @@ using Say = std::function<void(const std::string& line)>;
 class ChildProcess {
  public:
   // Forks; the child runs `body` and then ends with status 0, without leaving the test's frames.
-  // What `body` throws ends it with status 70.
+  // What `body` throws is printed and ends it with status 70.
   explicit ChildProcess(const std::function<void(const Say&)>& body);
   ChildProcess(const ChildProcess&) = delete;
   ChildProcess& operator=(const ChildProcess&) = delete;

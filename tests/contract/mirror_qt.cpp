@@ -4,6 +4,7 @@
 #include <QCheckBox>
 #include <QDateTimeEdit>
 #include <QElapsedTimer>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
 #include <QTextBlock>
@@ -292,6 +293,22 @@ TEST_F(QtLogTest, AClearedLogIsEmptyAndShowsWhatComesAfter) {
 }
 
 TEST_F(QtLogTest, ItCannotBeTypedInto) { EXPECT_TRUE(widget.isReadOnly()); }
+
+TEST_F(QtLogTest, ItsEndIsInViewAndTheBarBesideItSaysSo) {
+  widget.resize(300, 200);
+  window.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
+  for (int run = 0; run < 40; ++run) {
+    writeARun();
+    control.append("\r\nPath: /a/path/that/is/longer/than/the/box/is/wide/and/wraps/" +
+                   std::string(60, 'x'));
+    QApplication::processEvents();
+  }
+
+  const QScrollBar& bar = *widget.verticalScrollBar();
+  EXPECT_EQ(bar.value(), bar.maximum());
+  EXPECT_EQ(bar.sliderPosition(), bar.maximum());
+}
 
 class QtTimerTest : public QtMirrorTest {
  protected:

@@ -352,9 +352,11 @@ TEST_F(LinuxSettingsTest, AKillLosesNothingThatWasSaved) {
         say(std::to_string(i));
       }
     });
-    for (int i = 0; i < round; ++i) writer.hearLine();
+    std::string last;
+    for (int i = 0; i < round; ++i) last = writer.hearLine();
     writer.kill();
 
+    EXPECT_EQ(last, std::to_string(round));
     EXPECT_EQ(settings.check(), std::nullopt);
     EXPECT_GE(std::stoi(saved().value_or("0")), round);
   }

@@ -1,9 +1,10 @@
+#include <array>
 #include <csignal>
+#include <cstdio>
 #include <filesystem>
 #include <optional>
 #include <string>
 
-#include <spawn.h>
 #include <unistd.h>
 
 #include "platform/linux/linux_single_instance.h"
@@ -90,20 +91,18 @@ TEST_F(LinuxSingleInstanceTest, AProgramThatItStartedDoesNotKeepTheClaim) {
   ChildProcess holder([this](const Say& say) {
     LinuxSingleInstance own(environment);
     own.claim();
-    // Returns when the other program has taken this one's place in its process.
-    std::string program = "sleep", seconds = "100";
-    char* const arguments[] = {program.data(), seconds.data(), nullptr};
-    pid_t started = 0;
-    posix_spawnp(&started, "sleep", nullptr, nullptr, arguments, environ);
-    say(std::to_string(started));
+    // A line from the other program is the proof that it runs, with what it was let to inherit.
+    std::FILE* started = popen("echo $$; exec sleep 100", "r");
+    std::array<char, 20> process{};
+    say(std::fgets(process.data(), process.size(), started));
     stayUntilKilled();
   });
   const pid_t started = std::stoi(holder.hearLine());
   holder.kill();
 
-  EXPECT_GT(started, 0);
   EXPECT_TRUE(claim());
-  ::kill(started, SIGKILL);
+
+  EXPECT_EQ(::kill(started, SIGKILL), 0);
 }
 
 TEST_F(LinuxSingleInstanceTest, TheLockIsInTheRuntimeFolder) {
