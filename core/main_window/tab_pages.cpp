@@ -36,14 +36,14 @@ Column cleanInternetTab(cleaner::CleanerPage& page) {
   add(column, page, cleaner::kInternetOrder);
   // The box that acts at once stands between the things to erase and the script options.
   column.insert(column.end() - 2, &page.chkWebAddress);
-  column.insert(column.end(), {&page.Command2, &page.cmdDefaultSettings});
+  column.insert(column.end(), {&page.cmdDefaultSettings, &page.Command2});
   return column;
 }
 
 Column cleanComputerTab(cleaner::CleanerPage& page) {
   Column column;
   add(column, page, cleaner::kComputerOrder);
-  column.insert(column.end(), {&page.Command3, &page.cmdDefaultSettings1});
+  column.insert(column.end(), {&page.cmdDefaultSettings1, &page.Command3});
   return column;
 }
 

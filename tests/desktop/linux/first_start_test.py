@@ -53,6 +53,16 @@ def the_home_page_is_blank_and_imposed_on_the_browser(bed):
         assert hive.texts(bed.home, hive.BROWSER)["Start Page"] == "about:blank"
 
 
+def no_argument_is_ever_read(bed):
+    container = bed.home.home / "letter.dvk"
+    container.write_text("not to be opened")
+    # The last two would be the toolkit's own to understand.
+    with bed.start(arguments=[str(container), "--help", "-platform", "offscreen"]) as program:
+        assert program.window().says("Ready")
+
+    assert container.read_text() == "not to be opened"
+
+
 def the_log_is_empty(bed):
     with bed.start() as program:
         assert program.window().log.text() == ""
@@ -81,6 +91,7 @@ checks.run(
     the_first_page_is_in_front_and_the_status_line_says_ready,
     the_usual_options_are_ticked_and_no_other,
     the_home_page_is_blank_and_imposed_on_the_browser,
+    no_argument_is_ever_read,
     the_log_is_empty,
     what_is_stored_is_private_to_its_user,
     nothing_is_written_but_the_files_of_its_own,

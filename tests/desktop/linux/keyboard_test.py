@@ -69,7 +69,7 @@ def the_tab_key_visits_clean_internet_in_reading_order(bed):
         order = visited(bed, program.window(), "Clean Internet")
 
         assert order[:len(CLEAN_INTERNET)] == CLEAN_INTERNET, order
-        assert set(order[len(CLEAN_INTERNET):]) == {"Clean Internet", "Default"}, order
+        assert order[len(CLEAN_INTERNET):] == ["Default", "Clean Internet"], order
 
 
 def the_tab_key_visits_clean_computer_in_reading_order(bed):
@@ -77,7 +77,7 @@ def the_tab_key_visits_clean_computer_in_reading_order(bed):
         order = visited(bed, program.window(), "Clean Computer")
 
         assert order[:len(CLEAN_COMPUTER)] == CLEAN_COMPUTER, order
-        assert set(order[len(CLEAN_COMPUTER):]) == {"Clean Computer", "Default"}, order
+        assert order[len(CLEAN_COMPUTER):] == ["Default", "Clean Computer"], order
 
 
 def whatever_takes_the_focus_is_visited(bed):

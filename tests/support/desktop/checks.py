@@ -20,8 +20,8 @@ class Bed:
         self.home = home
         self.path = path
 
-    def start(self, home=None):
-        return Program(self.path, self.desktop, home or self.home)
+    def start(self, home=None, arguments=()):
+        return Program(self.path, self.desktop, home or self.home, arguments)
 
 
 def run(*tests):

@@ -11,12 +11,12 @@ from desktop.window import TITLE, Window
 class Program:
     """One started program. Ends with the `with` block at the latest."""
 
-    def __init__(self, path, desktop, home):
+    def __init__(self, path, desktop, home, arguments=()):
         self._desktop = desktop
         self._home = home
         self._log = open(home.runtime / "program.log", "ab")
         self._process = processes.start(
-            [str(path)], env=desktop.environment(home), cwd=home.home,
+            [str(path), *arguments], env=desktop.environment(home), cwd=home.home,
             stdin=subprocess.DEVNULL, stdout=self._log, stderr=self._log)
 
     def __enter__(self):

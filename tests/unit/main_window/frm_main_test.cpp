@@ -70,7 +70,7 @@ TEST_F(FrmMainTest, TheInternetPageShowsItsBoxesInTheirOrder) {
   EXPECT_EQ(names, (std::vector<std::string>{"fmSettings", "chkSettings_8", "chkSettings_2",
                                              "chkSettings_3", "chkSettings_6", "chkSettings_7",
                                              "chkSettings_9", "chkWebAddress", "chkSettings_15",
-                                             "chkSettings_14", "Command2", "cmdDefaultSettings"}));
+                                             "chkSettings_14", "cmdDefaultSettings", "Command2"}));
 }
 
 TEST_F(FrmMainTest, APageThatIsNotBuiltYetIsDisabledByItsFrameAlone) {
