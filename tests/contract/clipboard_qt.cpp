@@ -29,8 +29,8 @@ class QtClipboardBed : public ClipboardBed {
   platform::Clipboard& clipboard() override { return clipboard_; }
 
   void copy(const std::string& text) override {
-    // The display lets only a program copy that has been told of something lately. A user who copies
-    // presses keys; here it is the opening of a window.
+    // The display lets only a program copy that has been told of something lately. A user who
+    // copies presses keys; here it is the opening of a window.
     QWidget window;
     window.show();
     ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));

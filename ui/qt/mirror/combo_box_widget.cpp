@@ -12,7 +12,8 @@ ComboBoxWidget::ComboBoxWidget(controls::ComboBox& control, QWidget& parent) : Q
   mirrorControl(control, *this);
   follow(control, *this, [this, &control] { setCurrentIndex(control.listIndex()); });
   // "activated" comes with each choice of the user, also of the item that is chosen already.
-  connect(this, &QComboBox::activated, this, [&control](int index) { control.setListIndex(index); });
+  connect(this, &QComboBox::activated, this,
+          [&control](int index) { control.setListIndex(index); });
 }
 
 }  // namespace zelvane::qt

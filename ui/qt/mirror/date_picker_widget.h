@@ -1,4 +1,5 @@
-// A field for a date or a time on the screen: a box that says whether there is a value, and the value.
+// A field for a date or a time on the screen: a box that says whether there is a value, and the
+// value.
 #pragma once
 
 #include <QWidget>

@@ -1,9 +1,8 @@
 #include "ui/qt/mirror/follow.h"
 
-#include <utility>
-
 #include <QPointer>
 #include <QWidget>
+#include <utility>
 
 namespace zelvane::qt {
 

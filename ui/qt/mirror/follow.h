@@ -1,10 +1,9 @@
 // What every widget takes from its control.
 #pragma once
 
+#include <QString>
 #include <functional>
 #include <string>
-
-#include <QString>
 
 #include "core/controls/control.h"
 
@@ -16,8 +15,8 @@ namespace zelvane::qt {
 // Calls `show` now and whenever the control changes, for as long as `widget` lives.
 void follow(controls::Control& control, QObject& widget, std::function<void()> show);
 
-// Makes the widget the face of the control: its object name is the control's name; tool tip, enabled
-// and visible follow it. The widget must have a parent, or else it would open as a window.
+// Makes the widget the face of the control: its object name is the control's name; tool tip,
+// enabled and visible follow it. The widget must have a parent, or else it would open as a window.
 //
 // A screen reader says the accessible name, which a widget with a caption sets itself. One without
 // has that of its label, if there is one, and until then its description.

@@ -7,8 +7,9 @@
 
 namespace zelvane::qt {
 
-// Caption, visible and minimised go both ways. The close box asks the form to unload, and the window
-// stays if the form does. Of the toolkit's windows it is the kind that tells a screen reader so.
+// Caption, visible and minimised go both ways. The close box asks the form to unload, and the
+// window stays if the form does. Of the toolkit's windows it is the kind that tells a screen reader
+// so.
 class FormWidget : public QMainWindow {
  public:
   FormWidget(controls::Form& control, QWidget* parent, Qt::WindowFlags flags);

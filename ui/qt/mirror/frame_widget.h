@@ -8,8 +8,8 @@
 
 namespace zelvane::qt {
 
-// Draws no border: it is a heading for its caption, a quiet line for its description, and below them
-// whatever is put into its body. What is empty takes no room.
+// Draws no border: it is a heading for its caption, a quiet line for its description, and below
+// them whatever is put into its body. What is empty takes no room.
 class FrameWidget : public QWidget {
  public:
   FrameWidget(controls::Frame& control, QWidget& parent);

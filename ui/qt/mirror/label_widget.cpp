@@ -45,11 +45,10 @@ QSize LineWidget::minimumSizeHint() const {
 
 void LineWidget::paintEvent(QPaintEvent*) {
   QPainter painter(this);
-  style()->drawItemText(&painter, contentsRect(),
-                        int(alignment() | Qt::AlignVCenter | Qt::TextSingleLine), palette(),
-                        isEnabled(),
-                        fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()),
-                        foregroundRole());
+  style()->drawItemText(
+      &painter, contentsRect(), int(alignment() | Qt::AlignVCenter | Qt::TextSingleLine), palette(),
+      isEnabled(), fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width()),
+      foregroundRole());
 }
 
 LinkWidget::LinkWidget(controls::Label& control, QWidget& parent) : QPushButton(&parent) {

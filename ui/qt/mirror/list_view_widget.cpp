@@ -33,7 +33,8 @@ void ListViewWidget::showRows(const controls::ListView& control) {
     clear();
   }
   for (int row = topLevelItemCount(); row < rows; ++row) {
-    addTopLevelItem(new QTreeWidgetItem(texts(control.rows()[static_cast<std::size_t>(row)].cells)));
+    addTopLevelItem(
+        new QTreeWidgetItem(texts(control.rows()[static_cast<std::size_t>(row)].cells)));
   }
 }
 

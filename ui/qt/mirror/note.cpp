@@ -24,10 +24,9 @@ void Note::dim() {
   const QColor background = colours.color(QPalette::Active, QPalette::Window);
   const auto mix = [](float one, float other) { return one * 0.68F + other * 0.32F; };
   QPalette dimmed;
-  dimmed.setColor(QPalette::WindowText,
-                  QColor::fromRgbF(mix(text.redF(), background.redF()),
-                                   mix(text.greenF(), background.greenF()),
-                                   mix(text.blueF(), background.blueF())));
+  dimmed.setColor(QPalette::WindowText, QColor::fromRgbF(mix(text.redF(), background.redF()),
+                                                         mix(text.greenF(), background.greenF()),
+                                                         mix(text.blueF(), background.blueF())));
   setPalette(dimmed);
 }
 

@@ -1,13 +1,12 @@
 #include "ui/qt/mirror/rich_log_widget.h"
 
-#include <algorithm>
-#include <array>
-#include <cmath>
-
 #include <QEvent>
 #include <QPointer>
 #include <QScrollBar>
 #include <QTextBlock>
+#include <algorithm>
+#include <array>
+#include <cmath>
 
 #include "ui/qt/mirror/follow.h"
 

@@ -1,9 +1,8 @@
 // The coloured log on the screen.
 #pragma once
 
-#include <cstddef>
-
 #include <QPlainTextEdit>
+#include <cstddef>
 
 #include "core/controls/rich_log.h"
 
