@@ -24,7 +24,7 @@ display       dbus-x11            command:dbus-launch                tells progr
 display       at-spi2-core        file:/usr/share/dbus-1/services/org.a11y.Bus.service  presses buttons
 display       gir1.2-atspi-2.0    lib:girepository-1.0/Atspi-2.0.typelib                the same, for scripts
 display       python3-gi          lib:python3*/*-packages/gi         the same, for Python
-display,check python3             file:/usr/bin/python3              drives the window; counts the tests
+display,check,bench python3       file:/usr/bin/python3              drives the window; counts the tests
 display       imagemagick         command:import                     takes screenshots
 display       procps              command:ps                         sees which programs run
 display       file                command:file                       says what a screenshot is
