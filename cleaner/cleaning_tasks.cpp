@@ -78,7 +78,7 @@ void CleaningTasks::emptyRecycleBin(std::string_view caption) {
   // The bin is no folder with a path of its own. The log names the recent documents in its place,
   // which this task does not touch, and empties the bins also where that path is empty.
   logged(caption, specialFolderPath(SpecialFolder::recent),
-         [this] { desktop_.recycleBin.empty(); });
+         [this] { desktop_.recycleBin.empty(desktop_.pump); });
 }
 
 void CleaningTasks::deleteUserKey(std::string_view caption, const std::string& path) {

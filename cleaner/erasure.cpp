@@ -1,8 +1,9 @@
 #include "cleaner/erasure.h"
 
+#include <deque>
 #include <memory>
+#include <string_view>
 #include <utility>
-#include <vector>
 
 #include "core/handler.h"
 #include "platform/error.h"
@@ -19,13 +20,13 @@ namespace {
 // One folder on the way from the root to where the erasure is now. The walk keeps these on a stack
 // of its own, because a tree may be deeper than any thread's stack.
 struct Level {
-  Level(std::string folderName, std::unique_ptr<OpenFolder> opened)
-      : name(std::move(folderName)), folder(std::move(opened)), listing(folder->list()) {}
+  Level(std::string folderName, std::unique_ptr<OpenFolder> opened, platform::EventPump& pump)
+      : name(std::move(folderName)), folder(std::move(opened)), listing(folder->list(pump)) {}
 
   std::string name;
   std::unique_ptr<OpenFolder> folder;
-  platform::FolderListing listing;
-  std::size_t nextSubfolder = 0;
+  const platform::FolderListing listing;
+  platform::NameList::Iterator nextSubfolder = listing.subfolders.begin();
 };
 
 // Closes the deepest folder first, also when the program is ended in the middle of a walk.
@@ -39,12 +40,12 @@ struct Walk {
     }
   }
 
-  std::vector<Level> levels;
+  std::deque<Level> levels;  // which never moves them
 };
 
 void eraseFiles(const Level& level, platform::EventPump& pump) {
-  for (const std::string& file : level.listing.files) {
-    ignoringErrors([&] { level.folder->removeFile(file); });
+  for (const std::string_view file : level.listing.files) {
+    ignoringErrors([&] { level.folder->removeFile(std::string(file)); });
     pump.doEvents();
   }
 }
@@ -54,13 +55,13 @@ void eraseFiles(const Level& level, platform::EventPump& pump) {
 void eraseContents(platform::FolderTree& tree, platform::EventPump& pump, const std::string& path) {
   Walk walk;
   auto& levels = walk.levels;
-  levels.emplace_back(path, tree.openRoot(path));
+  levels.emplace_back(path, tree.openRoot(path), pump);
   while (!levels.empty()) {
     Level& level = levels.back();
-    if (level.nextSubfolder < level.listing.subfolders.size()) {
-      const std::string& subfolder = level.listing.subfolders[level.nextSubfolder++];
+    if (level.nextSubfolder != level.listing.subfolders.end()) {
+      const std::string subfolder(*level.nextSubfolder++);
       ignoringErrors(
-          [&] { levels.emplace_back(subfolder, level.folder->openSubfolder(subfolder)); });
+          [&] { levels.emplace_back(subfolder, level.folder->openSubfolder(subfolder), pump); });
       continue;
     }
     eraseFiles(level, pump);

@@ -3,19 +3,21 @@
 
 #include <memory>
 #include <string>
-#include <vector>
 
+#include "platform/name_list.h"
 #include "platform/port.h"
 
 namespace zelvane::platform {
 
+class EventPump;
+
 struct FolderListing {
   // Names, in the order of the desktop. Folders, hidden ones too, and mount points, which cannot be
   // opened; a link to a folder is not among them.
-  std::vector<std::string> subfolders;
+  NameList subfolders;
   // Names of the ordinary files: not hidden, not a socket, pipe or device. A link is an ordinary
   // file, whatever it leads to.
-  std::vector<std::string> files;
+  NameList files;
 };
 
 // One open folder. It stays the same folder whatever happens to its path meanwhile: a folder that
@@ -30,8 +32,10 @@ class OpenFolder {
   OpenFolder& operator=(const OpenFolder&) = delete;
   virtual ~OpenFolder() = default;
 
-  // Both lists come from one pass. Throws when the folder has vanished or cannot be read.
-  virtual FolderListing list() = 0;
+  // Both lists come from one pass; what appears in the folder later is not in them. A folder may
+  // hold a million files, so waiting events are delivered through `pump` between the pieces in
+  // which it is read. Throws when the folder has vanished or cannot be read.
+  virtual FolderListing list(EventPump& pump) = 0;
 
   // Throws when `name` is no folder (a link is none), is a mount point, or cannot be opened.
   // The parent outlives the subfolder.

@@ -1,11 +1,8 @@
 #include "platform/linux/folder_entries.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstddef>
-#include <string_view>
-#include <utility>
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -17,6 +14,10 @@
 
 namespace zelvane::platform {
 namespace {
+
+constexpr std::size_t kPiece = std::size_t{1} << 20U;  // bytes, of which an entry takes 24 or more
+constexpr std::size_t kFirstRoom = std::size_t{1} << 16U;
+constexpr std::size_t kRoomForOne = sizeof(dirent64);  // with a name of any length
 
 EntryKind kindOfMode(mode_t mode) {
   if (S_ISDIR(mode)) return EntryKind::folder;
@@ -40,7 +41,7 @@ std::optional<EntryFacts> ask(int folder, const char* name, int flags) {
 }
 
 // Not every file system says in its folders what the entries are; then each is asked.
-EntryKind kindOfType(unsigned char type, int folder, const std::string& name) {
+EntryKind kindOfType(unsigned char type, int folder, const char* name) {
   switch (type) {
     case DT_DIR:
       return EntryKind::folder;
@@ -49,7 +50,7 @@ EntryKind kindOfType(unsigned char type, int folder, const std::string& name) {
     case DT_LNK:
       return EntryKind::link;
     case DT_UNKNOWN: {
-      const std::optional<EntryFacts> facts = factsOf(folder, name);
+      const std::optional<EntryFacts> facts = ask(folder, name, 0);
       return facts ? facts->kind : EntryKind::other;
     }
     default:
@@ -59,26 +60,39 @@ EntryKind kindOfType(unsigned char type, int folder, const std::string& name) {
 
 }  // namespace
 
-std::vector<Entry> entriesOf(int folder) {
+void FolderReader::read(int folder, const Use& use) {
   // Read through the descriptor itself: readdir's stream would take a second one.
   if (lseek(folder, 0, SEEK_SET) != 0) throwSystemError();
-  std::vector<Entry> entries;
-  alignas(dirent64) std::array<char, 65536> buffer;
-  for (;;) {
-    const ssize_t filled = getdents64(folder, buffer.data(), buffer.size());
-    if (filled < 0) throwSystemError();
-    if (filled == 0) break;
-    for (std::size_t at = 0; at < static_cast<std::size_t>(filled);) {
-      const auto* raw = reinterpret_cast<const dirent64*>(buffer.data() + at);
-      at += raw->d_reclen;
-      const std::string_view name = raw->d_name;
-      if (name == "." || name == "..") continue;
-      Entry& entry = entries.emplace_back(Entry{raw->d_ino, std::string(name)});
-      entry.kind = kindOfType(raw->d_type, folder, entry.name);
-    }
+  for (bool ended = false; !ended;) {
+    takeEntries(folder, fill(folder, ended));
+    use(entries_);
   }
-  std::ranges::sort(entries, {}, &Entry::inode);
-  return entries;
+}
+
+// Reads as many entries as there are, or as there is room for; returns the bytes that they take.
+std::size_t FolderReader::fill(int folder, bool& ended) {
+  std::size_t filled = 0;
+  while (!ended && filled + kRoomForOne <= kPiece) {
+    // Most folders are small and need no more than the first bit of the room.
+    buffer_.resize(std::max(buffer_.size(), std::min(filled + kFirstRoom, kPiece)));
+    const ssize_t read = getdents64(folder, buffer_.data() + filled, buffer_.size() - filled);
+    if (read < 0) throwSystemError();
+    ended = read == 0;
+    filled += static_cast<std::size_t>(read);
+  }
+  return filled;
+}
+
+void FolderReader::takeEntries(int folder, std::size_t filled) {
+  entries_.clear();
+  for (std::size_t at = 0; at < filled;) {
+    const auto* raw = reinterpret_cast<const dirent64*>(buffer_.data() + at);
+    at += raw->d_reclen;
+    const std::string_view name = raw->d_name;
+    if (name == "." || name == "..") continue;
+    entries_.push_back({raw->d_ino, name, kindOfType(raw->d_type, folder, raw->d_name)});
+  }
+  std::ranges::sort(entries_, {}, &Entry::inode);
 }
 
 std::optional<EntryFacts> factsOf(int folder, const std::string& name) {

@@ -10,6 +10,7 @@
 #include <linux/openat2.h>
 #include <sys/stat.h>
 #include <sys/syscall.h>
+#include <sys/vfs.h>
 #include <unistd.h>
 
 #include "platform/linux/linux_files.h"
@@ -104,7 +105,17 @@ int GuardedFolder::descriptor() const {
   return folder_.get();
 }
 
-std::vector<Entry> GuardedFolder::entries() { return entriesOf(descriptor()); }
+void GuardedFolder::read(const FolderReader::Use& use) {
+  const int folder = descriptor();
+  assert(walk_ != nullptr);
+  walk_->reader.read(folder, use);
+}
+
+std::int64_t GuardedFolder::fileSystem() const {
+  struct statfs status {};
+  if (fstatfs(descriptor(), &status) != 0) throwSystemError();
+  return status.f_type;
+}
 
 std::optional<EntryFacts> GuardedFolder::facts(const std::string& name) {
   singleName(name);

@@ -7,7 +7,6 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <vector>
 
 #include <sys/types.h>
 
@@ -49,8 +48,11 @@ class GuardedFolder {
   GuardedFolder& operator=(const GuardedFolder&) = delete;
   ~GuardedFolder();
 
-  // Everything in it; see folder_entries.h.
-  std::vector<Entry> entries();
+  // Everything in it; see folder_entries.h. `use` must not use this walk.
+  void read(const FolderReader::Use& use);
+
+  // The kind of file system, as statfs names it; the same in the whole walk.
+  std::int64_t fileSystem() const;
 
   // What an entry is; nothing where there is none of that name. With force.
   std::optional<EntryFacts> facts(const std::string& name);
@@ -67,6 +69,7 @@ class GuardedFolder {
     Options options;
     std::deque<GuardedFolder*> open;     // those below the root that have a descriptor
     std::optional<std::uint64_t> mount;  // of the whole walk, where it is checked here
+    FolderReader reader;
   };
 
   GuardedFolder(Descriptor folder, GuardedFolder& parent);

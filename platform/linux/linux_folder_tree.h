@@ -1,21 +1,31 @@
 // Erasing below a folder of a Linux file system.
 #pragma once
 
+#include <chrono>
+
 #include "platform/folder_tree.h"
 #include "platform/linux/guarded_folder.h"
 
 namespace zelvane::platform {
 
-// Hidden files are those whose name begins with a dot. Lists are sorted by inode. A mount point is
-// listed, because its name is a folder's, and refused.
+// Hidden files are those whose name begins with a dot. Lists are sorted by inode, those of very
+// large folders piece by piece. A mount point is listed, because its name is a folder's, and
+// refused.
 class LinuxFolderTree : public FolderTree {
  public:
-  explicit LinuxFolderTree(GuardedFolder::Options options = {}) : options_(options) {}
+  struct Options {
+    GuardedFolder::Options way;
+    // How long after a listing its files are deleted without another look at each of them.
+    std::chrono::milliseconds listingIsGood{100};
+  };
+
+  LinuxFolderTree() = default;
+  explicit LinuxFolderTree(Options options) : options_(options) {}
 
   std::unique_ptr<OpenFolder> openRoot(const std::string& path) override;
 
  private:
-  GuardedFolder::Options options_;
+  Options options_;
 };
 
 }  // namespace zelvane::platform

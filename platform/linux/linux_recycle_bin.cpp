@@ -19,7 +19,7 @@ constexpr std::uint64_t kLongestTable = std::uint64_t{64} << 20U;
 LinuxRecycleBin::LinuxRecycleBin(const Environment& environment, std::string mountTable)
     : dataHome_(environment.dataHome), mountTable_(std::move(mountTable)) {}
 
-std::uint64_t LinuxRecycleBin::empty() {
+std::uint64_t LinuxRecycleBin::empty(EventPump& pump) {
   bool refused = false;
   std::string table;
   try {
@@ -29,7 +29,7 @@ std::uint64_t LinuxRecycleBin::empty() {
   }
   std::uint64_t freed = 0;
   for (Descriptor& place : openTrashPlaces(dataHome_, mountedVolumes(table))) {
-    TrashFolder trash(std::move(place));
+    TrashFolder trash(std::move(place), pump);
     trash.empty();
     freed += trash.bytesFreed();
     refused = refused || trash.refused();

@@ -15,7 +15,7 @@ class LinuxRecycleBin : public RecycleBin {
   explicit LinuxRecycleBin(const Environment& environment,
                            std::string mountTable = "/proc/self/mountinfo");
 
-  std::uint64_t empty() override;
+  std::uint64_t empty(EventPump& pump) override;
 
  private:
   std::string dataHome_;

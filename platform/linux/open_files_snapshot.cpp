@@ -51,24 +51,37 @@ Number numberIn(std::string_view text, int base) {
 OpenFilesSnapshot::OpenFilesSnapshot(const std::string& processFolder) {
   const Descriptor processes(open(kernelPath(processFolder), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (!processes.isOpen()) return;
-  for (const Entry& entry : entriesOf(processes.get())) {
-    if (entry.name.find_first_not_of("0123456789") != std::string::npos) continue;
-    const std::string process = processFolder + "/" + entry.name;
-    try {
-      addDescriptors(process);
-      addMaps(process);
-    } catch (const Error&) {
-      // Ended meanwhile, or another user's: it holds nothing that this user could take from it.
+  FolderReader().read(processes.get(), [&](std::span<const Entry> piece) {
+    for (const Entry& entry : piece) {
+      if (entry.name.find_first_not_of("0123456789") == std::string::npos) {
+        addProcess(processFolder + "/" + std::string(entry.name));
+      }
     }
+  });
+}
+
+void OpenFilesSnapshot::addProcess(const std::string& process) {
+  try {
+    addDescriptors(process);
+    addMaps(process);
+  } catch (const Error&) {
+    // Ended meanwhile, or another user's: it holds nothing that this user could take from it.
   }
 }
 
 void OpenFilesSnapshot::addDescriptors(const std::string& process) {
   const Descriptor folder(open(kernelPath(process + "/fd"), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (!folder.isOpen()) return;
-  for (const Entry& entry : entriesOf(folder.get())) {
-    if (const auto file = fileBehind(folder.get(), entry.name.c_str())) files_.insert(*file);
-  }
+  descriptors_.read(folder.get(), [&](std::span<const Entry> piece) {
+    for (const Entry& entry : piece) {
+      if (const auto file = fileBehind(folder.get(), entry.name.data())) add(*file);
+    }
+  });
+}
+
+bool OpenFilesSnapshot::add(const FileIdentity& file) {
+  inodes_.insert(file.inode);
+  return files_.insert(file).second;
 }
 
 // A program that runs, a library and a file that was mapped and closed appear in the maps alone.
@@ -93,11 +106,11 @@ void OpenFilesSnapshot::addMap(std::string_view line) {
   const FileIdentity listed{makedev(numberIn<unsigned>(device.substr(0, colon), 16),
                                     numberIn<unsigned>(device.substr(colon + 1), 16)),
                             inode};
-  if (!files_.insert(listed).second) return;
+  if (!add(listed)) return;
   // Some file systems (Btrfs) show programs another device number than the one that is listed here.
   line.remove_prefix(std::min(line.find_first_not_of(' '), line.size()));
   const std::optional<FileIdentity> shown = fileBehind(AT_FDCWD, std::string(line).c_str());
-  if (shown && shown->inode == inode) files_.insert(*shown);
+  if (shown && shown->inode == inode) add(*shown);
 }
 
 }  // namespace zelvane::platform

@@ -6,6 +6,7 @@
 #include <unordered_set>
 
 #include "platform/linux/file_identity.h"
+#include "platform/linux/folder_entries.h"
 
 namespace zelvane::platform {
 
@@ -19,12 +20,19 @@ class OpenFilesSnapshot {
 
   bool contains(const FileIdentity& file) const { return files_.count(file) > 0; }
 
+  // Whether there is a file with that number in it, on whatever device.
+  bool containsInode(ino_t inode) const { return inodes_.count(inode) > 0; }
+
  private:
+  void addProcess(const std::string& process);
   void addDescriptors(const std::string& process);
   void addMaps(const std::string& process);
   void addMap(std::string_view line);
+  bool add(const FileIdentity& file);
 
+  FolderReader descriptors_;
   std::unordered_set<FileIdentity, FileIdentity::Hash> files_;
+  std::unordered_set<ino_t> inodes_;
 };
 
 }  // namespace zelvane::platform

@@ -50,11 +50,13 @@ bool renameWithoutReplacing(const Descriptor& folder, const std::string& from,
 
 // To be called with the lock held: then nobody's unfinished file is among them.
 void sweepAwayWhatKilledWritersLeft(const Descriptor& folder) {
-  for (const Entry& entry : entriesOf(folder.get())) {
-    if (entry.name.starts_with(LinuxPendingFile::kHiddenPrefix)) {
-      unlinkat(folder.get(), entry.name.c_str(), 0);
+  FolderReader().read(folder.get(), [&](std::span<const Entry> piece) {
+    for (const Entry& entry : piece) {
+      if (entry.name.starts_with(LinuxPendingFile::kHiddenPrefix)) {
+        unlinkat(folder.get(), entry.name.data(), 0);
+      }
     }
-  }
+  });
 }
 
 }  // namespace

@@ -21,11 +21,13 @@ std::vector<std::string> copiesIn(const std::string& folder) {
   std::vector<std::string> copies;
   const Descriptor opened(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (!opened.isOpen()) return copies;
-  for (const Entry& entry : entriesOf(opened.get())) {
-    if (entry.name.starts_with(std::string(kList) + ".") && entry.kind != EntryKind::folder) {
-      copies.push_back(entry.name);
+  FolderReader().read(opened.get(), [&](std::span<const Entry> piece) {
+    for (const Entry& entry : piece) {
+      if (entry.name.starts_with(std::string(kList) + ".") && entry.kind != EntryKind::folder) {
+        copies.emplace_back(entry.name);
+      }
     }
-  }
+  });
   return copies;
 }
 

@@ -1,7 +1,11 @@
 #include "platform/linux/trash_folder.h"
 
+#include <deque>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string_view>
 #include <utility>
-#include <vector>
 
 #include <fcntl.h>
 
@@ -9,14 +13,6 @@
 
 namespace zelvane::platform {
 namespace {
-
-// A folder on the way down, and how far its entries are done.
-struct Level {
-  std::string name;
-  std::unique_ptr<GuardedFolder> folder;
-  std::vector<Entry> entries;
-  std::size_t next = 0;
-};
 
 // Does what it can; false when that failed.
 template <typename Deed>
@@ -33,8 +29,19 @@ std::string noteOf(const std::string& name) { return name + ".trashinfo"; }
 
 }  // namespace
 
-TrashFolder::TrashFolder(Descriptor folder)
-    : notesTrash_(Descriptor(openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC)), {}),
+struct TrashFolder::Level {
+  Level(std::string folderName, std::unique_ptr<GuardedFolder> opened, Content read)
+      : name(std::move(folderName)), folder(std::move(opened)), content(std::move(read)) {}
+
+  std::string name;
+  std::unique_ptr<GuardedFolder> folder;
+  const Content content;
+  NameList::Iterator nextFolder = content.folders.begin();
+};
+
+TrashFolder::TrashFolder(Descriptor folder, EventPump& pump)
+    : pump_(pump),
+      notesTrash_(Descriptor(openat(folder.get(), ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC)), {}),
       trash_(std::move(folder), {}) {}
 
 void TrashFolder::empty() {
@@ -50,56 +57,74 @@ void TrashFolder::empty() {
   if (!done) refused_ = true;
 }
 
+TrashFolder::Content TrashFolder::contentOf(GuardedFolder& folder) {
+  Content content;
+  folder.read([&](std::span<const Entry> piece) {
+    for (const Entry& entry : piece) {
+      (entry.kind == EntryKind::folder ? content.folders : content.others).add(entry.name);
+    }
+    pump_.doEvents();
+  });
+  return content;
+}
+
+void TrashFolder::forEachIn(GuardedFolder& folder, const Use& use) {
+  const Content content = contentOf(folder);
+  for (const std::string_view name : content.folders) {
+    use(std::string(name), &TrashFolder::eraseTree);
+  }
+  for (const std::string_view name : content.others) {
+    use(std::string(name), &TrashFolder::eraseFile);
+  }
+}
+
 void TrashFolder::emptyFiles(GuardedFolder* notes) {
   if (!trash_.facts("files")) return;
   const std::unique_ptr<GuardedFolder> files = trash_.openSubfolder("files");
-  for (const Entry& entry : files->entries()) {
-    const auto eraseNote = [&] { notes->removeFile(noteOf(entry.name)); };
-    if (!erase(*files, entry) || (notes != nullptr && !tried(eraseNote))) refused_ = true;
-  }
+  forEachIn(*files, [&](const std::string& name, Erase erase) {
+    const auto eraseNote = [&] { notes->removeFile(noteOf(name)); };
+    if (!(this->*erase)(*files, name) || (notes != nullptr && !tried(eraseNote))) refused_ = true;
+  });
   // Asked again and not remembered: something may have been put there meanwhile.
-  for (const Entry& entry : files->entries()) keptNotes_.insert(noteOf(entry.name));
+  forEachIn(*files, [this](const std::string& name, Erase) { keptNotes_.insert(noteOf(name)); });
 }
 
 void TrashFolder::emptyNotes(GuardedFolder& notes) {
   const std::uint64_t freedSoFar = bytesFreed_;
-  for (const Entry& entry : notes.entries()) {
-    if (!keptNotes_.contains(entry.name) && !erase(notes, entry)) refused_ = true;
-  }
+  forEachIn(notes, [&](const std::string& name, Erase erase) {
+    if (!keptNotes_.contains(name) && !(this->*erase)(notes, name)) refused_ = true;
+  });
   bytesFreed_ = freedSoFar;  // nobody deleted the notes
 }
 
 void TrashFolder::emptyExpunged() {
   if (!trash_.facts("expunged")) return;
   const std::unique_ptr<GuardedFolder> expunged = trash_.openSubfolder("expunged");
-  for (const Entry& entry : expunged->entries()) {
-    if (!erase(*expunged, entry)) refused_ = true;
-  }
-}
-
-bool TrashFolder::erase(GuardedFolder& folder, const Entry& entry) {
-  return entry.kind == EntryKind::folder ? eraseTree(folder, entry.name)
-                                         : eraseFile(folder, entry.name);
+  forEachIn(*expunged, [&](const std::string& name, Erase erase) {
+    if (!(this->*erase)(*expunged, name)) refused_ = true;
+  });
 }
 
 bool TrashFolder::eraseFile(GuardedFolder& folder, const std::string& name) {
-  return tried([&] {
+  const bool gone = tried([&] {
     const std::optional<EntryFacts> facts = folder.facts(name);
     folder.removeFile(name);
     if (facts && facts->kind == EntryKind::file && facts->names == 1) bytesFreed_ += facts->bytes;
   });
+  pump_.doEvents();
+  return gone;
 }
 
 // Without recursion, because a folder may hold more levels than a stack has room for.
 bool TrashFolder::eraseTree(GuardedFolder& folder, const std::string& name) {
-  std::vector<Level> levels;
+  std::deque<Level> levels;  // which never moves them
   const auto innermost = [&]() -> GuardedFolder& {
     return levels.empty() ? folder : *levels.back().folder;
   };
   const auto enter = [&](const std::string& below) {
     std::unique_ptr<GuardedFolder> opened = innermost().openSubfolder(below);
-    std::vector<Entry> entries = opened->entries();
-    levels.push_back({below, std::move(opened), std::move(entries)});
+    Content content = contentOf(*opened);
+    levels.emplace_back(below, std::move(opened), std::move(content));
   };
   bool gone = false;
   // One that cannot be read may still be empty.
@@ -110,18 +135,17 @@ bool TrashFolder::eraseTree(GuardedFolder& folder, const std::string& name) {
   if (!tried([&] { enter(name); })) leave(name);
   while (!levels.empty()) {
     Level& level = levels.back();
-    if (level.next == level.entries.size()) {
-      const std::string done = std::move(level.name);
-      levels.pop_back();
-      leave(done);
+    if (level.nextFolder != level.content.folders.end()) {
+      const std::string below(*level.nextFolder++);
+      if (!tried([&] { enter(below); })) leave(below);
       continue;
     }
-    const Entry entry = std::move(level.entries[level.next++]);
-    if (entry.kind != EntryKind::folder) {
-      eraseFile(*level.folder, entry.name);
-    } else if (!tried([&] { enter(entry.name); })) {
-      leave(entry.name);
+    for (const std::string_view other : level.content.others) {
+      eraseFile(*level.folder, std::string(other));
     }
+    const std::string done = std::move(level.name);
+    levels.pop_back();
+    leave(done);
   }
   return gone;
 }

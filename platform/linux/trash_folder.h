@@ -2,10 +2,13 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <set>
 #include <string>
 
+#include "platform/event_pump.h"
 #include "platform/linux/guarded_folder.h"
+#include "platform/name_list.h"
 
 namespace zelvane::platform {
 
@@ -18,10 +21,10 @@ namespace zelvane::platform {
 //
 // Emptying erases each thing and then its note, then the notes that belong to nothing. What refuses
 // to go keeps its note. Everything in it is deleted with force, hidden or not, links as what they
-// are; mount points are refused.
+// are; mount points are refused. Waiting events are delivered after each.
 class TrashFolder {
  public:
-  explicit TrashFolder(Descriptor folder);
+  TrashFolder(Descriptor folder, EventPump& pump);
 
   void empty();
 
@@ -31,13 +34,29 @@ class TrashFolder {
   bool refused() const { return refused_; }
 
  private:
-  void emptyFiles(GuardedFolder* notes);
-  void emptyNotes(GuardedFolder& notes);
-  void emptyExpunged();
-  bool erase(GuardedFolder& folder, const Entry& entry);
+  // What is in a folder at one moment.
+  struct Content {
+    NameList folders;
+    NameList others;
+  };
+  // A folder on the way down into a tree, and how far it is done.
+  struct Level;
+
+  // Erases one thing of the folder; false where anything of it is still there.
+  using Erase = bool (TrashFolder::*)(GuardedFolder& folder, const std::string& name);
   bool eraseFile(GuardedFolder& folder, const std::string& name);
   bool eraseTree(GuardedFolder& folder, const std::string& name);
 
+  // Calls `use` for each thing in the folder, with the way to erase it.
+  using Use = std::function<void(const std::string& name, Erase erase)>;
+  void forEachIn(GuardedFolder& folder, const Use& use);
+
+  Content contentOf(GuardedFolder& folder);
+  void emptyFiles(GuardedFolder* notes);
+  void emptyNotes(GuardedFolder& notes);
+  void emptyExpunged();
+
+  EventPump& pump_;
   GuardedFolder notesTrash_;  // the same folder again, for the notes next to the files
   GuardedFolder trash_;
   std::set<std::string> keptNotes_;

@@ -18,15 +18,15 @@ class MemoryOpenFolder : public OpenFolder {
     if (folder.folder.unreadable) throw Error(ErrorNumber::permissionDenied);
   }
 
-  FolderListing list() override {
+  FolderListing list(EventPump&) override {
     if (!fileSystem_.contains(folder_)) throw Error(ErrorNumber::pathNotFound);
     if (folder_.folder.unlistable) throw Error(ErrorNumber::permissionDenied);
     FolderListing listing;
     for (const MemoryNode* node : folder_.children) {
       if (node->kind == Kind::folder) {
-        listing.subfolders.push_back(node->name);
+        listing.subfolders.add(node->name);
       } else if (node->kind != Kind::socket && !node->file.hidden) {
-        listing.files.push_back(node->name);
+        listing.files.add(node->name);
       }
     }
     return listing;

@@ -21,7 +21,8 @@ class MemoryRecycleBin : public RecycleBin {
 
   void put(Item item) { items_.push_back(std::move(item)); }
 
-  std::uint64_t empty() override;
+  // Delivers events after each item; an item that is put there meanwhile is another run's affair.
+  std::uint64_t empty(EventPump& pump) override;
 
   const std::vector<Item>& items() const { return items_; }
 

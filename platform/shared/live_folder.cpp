@@ -19,14 +19,14 @@ class LiveOpenFolder : public OpenFolder {
  public:
   LiveOpenFolder(LiveFolder& folder, FolderTree& tree) : folder_(folder), tree_(tree) {}
 
-  FolderListing list() override {
+  FolderListing list(EventPump&) override {
     FolderListing listing;
     for (const LiveFolder::Entry& entry : folder_.entries_) {
       const auto* store = std::get_if<std::unique_ptr<LiveStore>>(&entry.what);
       if (store == nullptr) {
-        listing.subfolders.push_back(entry.name);
+        listing.subfolders.add(entry.name);
       } else if ((*store)->holdsAnything()) {
-        listing.files.push_back(entry.name);
+        listing.files.add(entry.name);
       }
     }
     return listing;

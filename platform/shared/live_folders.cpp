@@ -11,7 +11,7 @@ class LiveRoot : public OpenFolder {
   LiveRoot(LiveFolder folder, FolderTree& tree)
       : folder_(std::move(folder)), open_(folder_.open(tree)) {}
 
-  FolderListing list() override { return open_->list(); }
+  FolderListing list(EventPump& pump) override { return open_->list(pump); }
   std::unique_ptr<OpenFolder> openSubfolder(const std::string& name) override {
     return open_->openSubfolder(name);
   }

@@ -28,7 +28,8 @@ std::string dotted(const std::string& name) {
 
 }  // namespace
 
-LinuxFolderTreeBed::LinuxFolderTreeBed(platform::GuardedFolder::Options options) : tree_(options) {
+LinuxFolderTreeBed::LinuxFolderTreeBed(platform::LinuxFolderTree::Options options)
+    : tree_(options) {
   fs::create_directory(root());
 }
 

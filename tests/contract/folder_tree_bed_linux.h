@@ -13,7 +13,7 @@ namespace zelvane::test {
 
 class LinuxFolderTreeBed : public FolderTreeBed {
  public:
-  explicit LinuxFolderTreeBed(platform::GuardedFolder::Options options = {});
+  explicit LinuxFolderTreeBed(platform::LinuxFolderTree::Options options = {});
 
   platform::FolderTree& tree() override { return tree_; }
   std::string root() const override { return folder / "root"; }

@@ -4,16 +4,16 @@
 #include <vector>
 
 #include "platform/error.h"
+#include "tests/support/listing.h"
 
 namespace zelvane::test {
 
 using platform::Error;
 using platform::ErrorNumber;
-using platform::FolderListing;
 using platform::OpenFolder;
 
 void eraseBelow(OpenFolder& folder) {
-  const FolderListing listing = folder.list();
+  const Listing listing = listOf(folder);
   for (const std::string& name : listing.subfolders) {
     try {
       eraseBelow(*folder.openSubfolder(name));
@@ -52,7 +52,7 @@ ErrorNumber errorOf(Action action) {
 }  // namespace
 
 TEST_P(FolderTreeContract, AnEmptyFolderListsNothing) {
-  const FolderListing listing = openRoot()->list();
+  const Listing listing = listOf(*openRoot());
 
   EXPECT_TRUE(listing.files.empty());
   EXPECT_TRUE(listing.subfolders.empty());
@@ -64,7 +64,7 @@ TEST_P(FolderTreeContract, FilesAndSubfoldersAreListedApart) {
   bed->addFolder("folder");
   bed->addFile("other/inside");
 
-  const FolderListing listing = openRoot()->list();
+  const Listing listing = listOf(*openRoot());
 
   EXPECT_EQ(sorted(listing.files), (std::vector<std::string>{"a.txt", "b"}));
   EXPECT_EQ(sorted(listing.subfolders), (std::vector<std::string>{"folder", "other"}));
@@ -74,7 +74,7 @@ TEST_P(FolderTreeContract, HiddenFilesAreNotListedButHiddenFoldersAre) {
   bed->addHiddenFile("secret");
   const std::string folder = bed->addHiddenFolder("cache");
 
-  const FolderListing listing = openRoot()->list();
+  const Listing listing = listOf(*openRoot());
 
   EXPECT_TRUE(listing.files.empty());
   EXPECT_EQ(listing.subfolders, std::vector<std::string>{folder});
@@ -83,14 +83,14 @@ TEST_P(FolderTreeContract, HiddenFilesAreNotListedButHiddenFoldersAre) {
 TEST_P(FolderTreeContract, ASocketIsNotListed) {
   bed->addSocket("socket");
 
-  EXPECT_TRUE(openRoot()->list().files.empty());
+  EXPECT_TRUE(listOf(*openRoot()).files.empty());
 }
 
 TEST_P(FolderTreeContract, ALinkToAFolderIsListedAsAFile) {
   bed->addFile("target/kept");
   bed->addLink("link", bed->path("target"));
 
-  const FolderListing listing = openRoot()->list();
+  const Listing listing = listOf(*openRoot());
 
   EXPECT_EQ(listing.files, std::vector<std::string>{"link"});
   EXPECT_EQ(listing.subfolders, std::vector<std::string>{"target"});
@@ -100,7 +100,7 @@ TEST_P(FolderTreeContract, ALinkThatLeadsNowhereIsListedAndDeleted) {
   bed->addLink("link", bed->path("nothing"));
 
   const auto root = openRoot();
-  ASSERT_EQ(root->list().files, std::vector<std::string>{"link"});
+  ASSERT_EQ(listOf(*root).files, std::vector<std::string>{"link"});
   root->removeFile("link");
 
   EXPECT_FALSE(bed->has("link"));
@@ -150,9 +150,9 @@ TEST_P(FolderTreeContract, AFileAndNothingAtAllAreNoRoots) {
 TEST_P(FolderTreeContract, ClosingSeparatorsOfTheRootDoNotMatter) {
   bed->addFile("file");
 
-  EXPECT_EQ(bed->tree().openRoot(bed->root() + "/")->list().files,
+  EXPECT_EQ(listOf(*bed->tree().openRoot(bed->root() + "/")).files,
             std::vector<std::string>{"file"});
-  EXPECT_EQ(bed->tree().openRoot(bed->root() + "//")->list().files,
+  EXPECT_EQ(listOf(*bed->tree().openRoot(bed->root() + "//")).files,
             std::vector<std::string>{"file"});
 }
 
@@ -200,7 +200,7 @@ TEST_P(FolderTreeContract, AFolderThatCannotBeReadIsListedAndNotOpened) {
 
   const auto root = openRoot();
 
-  EXPECT_EQ(root->list().subfolders, std::vector<std::string>{"folder"});
+  EXPECT_EQ(listOf(*root).subfolders, std::vector<std::string>{"folder"});
   EXPECT_EQ(errorOf([&] { root->openSubfolder("folder"); }), ErrorNumber::permissionDenied);
 }
 
@@ -320,7 +320,7 @@ TEST_P(FolderTreeContract, AFolderThatVanishedCannotBeListed) {
 
   bed->vanish("folder");
 
-  EXPECT_THROW(folder->list(), Error);
+  EXPECT_THROW(listOf(*folder), Error);
 }
 
 TEST_P(FolderTreeContract, AnOpenFolderThatIsMovedAwayAndReplacedIsStillTheSame) {
@@ -345,7 +345,7 @@ TEST_P(FolderTreeContract, AMountedVolumeIsListedAndNotEntered) {
 
   const auto root = openRoot();
 
-  EXPECT_EQ(root->list().subfolders, std::vector<std::string>{"volume"});
+  EXPECT_EQ(listOf(*root).subfolders, std::vector<std::string>{"volume"});
   EXPECT_THROW(root->openSubfolder("volume"), Error);
   EXPECT_THROW(root->removeFolder("volume"), Error);
   EXPECT_TRUE(bed->has("volume/kept"));

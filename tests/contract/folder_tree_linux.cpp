@@ -1,21 +1,27 @@
 #include <algorithm>
+#include <chrono>
 #include <filesystem>
 #include <iterator>
+#include <set>
 
 #include <fcntl.h>
 #include <sys/mman.h>
 #include <sys/stat.h>
 
 #include "platform/error.h"
+#include "platform/linux/descriptor.h"
+#include "platform/memory/memory_event_pump.h"
 #include "tests/contract/child_process_linux.h"
 #include "tests/contract/folder_tree_bed_linux.h"
+#include "tests/support/listing.h"
 
 namespace zelvane::test {
 namespace {
 
 namespace fs = std::filesystem;
+using platform::Descriptor;
 using platform::Error;
-using platform::GuardedFolder;
+using platform::LinuxFolderTree;
 using platform::OpenFolder;
 
 INSTANTIATE_TEST_SUITE_P(Linux, FolderTreeContract,
@@ -23,10 +29,12 @@ INSTANTIATE_TEST_SUITE_P(Linux, FolderTreeContract,
                            return std::make_unique<LinuxFolderTreeBed>();
                          }));
 
-INSTANTIATE_TEST_SUITE_P(LinuxOfOldAndWithFewDescriptors, FolderTreeContract,
+const LinuxFolderTree::Options kNoTrust{.way = {.mostDescriptors = 3, .askKernel = false},
+                                        .listingIsGood = std::chrono::milliseconds(0)};
+
+INSTANTIATE_TEST_SUITE_P(LinuxOfOldAndWithoutTrust, FolderTreeContract,
                          testing::Values([]() -> std::unique_ptr<FolderTreeBed> {
-                           return std::make_unique<LinuxFolderTreeBed>(
-                               GuardedFolder::Options{.mostDescriptors = 3, .askKernel = false});
+                           return std::make_unique<LinuxFolderTreeBed>(kNoTrust);
                          }));
 
 std::ptrdiff_t openDescriptors() {
@@ -36,7 +44,7 @@ std::ptrdiff_t openDescriptors() {
 // The largest number of descriptors on the way down a chain of folders called "d".
 std::ptrdiff_t mostDescriptorsBelow(OpenFolder& folder) {
   const std::ptrdiff_t here = openDescriptors();
-  if (folder.list().subfolders.empty()) return here;
+  if (listOf(folder).subfolders.empty()) return here;
   return std::max(here, mostDescriptorsBelow(*folder.openSubfolder("d")));
 }
 
@@ -105,6 +113,33 @@ TEST(LinuxFolderTree, AnotherNameOfAFileInUseStays) {
   EXPECT_TRUE(bed.has("other"));
 }
 
+TEST(LinuxFolderTree, AFileInUseStaysAlsoWhenItsFolderWasJustListed) {
+  LinuxFolderTreeBed bed;
+  bed.addFile("free");
+  bed.addFileInUse("file");
+  const auto root = bed.tree().openRoot(bed.root());
+  ASSERT_EQ(listOf(*root).files.size(), 2U);
+
+  root->removeFile("free");
+
+  EXPECT_THROW(root->removeFile("file"), Error);
+  EXPECT_TRUE(bed.has("file"));
+}
+
+TEST(LinuxFolderTree, AFileInUseThatTookTheNameOfAFreeOneSinceTheListingStays) {
+  LinuxFolderTreeBed bed(kNoTrust);
+  bed.addFile("name");
+  bed.folder.write("used elsewhere");
+  const Descriptor user(open((bed.folder / "used elsewhere").c_str(), O_RDONLY | O_CLOEXEC));
+  const auto root = bed.tree().openRoot(bed.root());
+  ASSERT_EQ(listOf(*root).files.size(), 1U);
+
+  fs::rename(bed.folder / "used elsewhere", bed.path("name"));
+
+  EXPECT_THROW(root->removeFile("name"), Error);
+  EXPECT_TRUE(bed.has("name"));
+}
+
 TEST(LinuxFolderTree, ALinkToAFileInUseIsDeleted) {
   LinuxFolderTreeBed bed;
   bed.addFileInUse("file");
@@ -121,7 +156,7 @@ TEST(LinuxFolderTree, APipeIsNeitherListedNorDeleted) {
 
   const auto root = bed.tree().openRoot(bed.root());
 
-  EXPECT_TRUE(root->list().files.empty());
+  EXPECT_TRUE(listOf(*root).files.empty());
   EXPECT_THROW(root->removeFile("pipe"), Error);
   EXPECT_TRUE(bed.has("pipe"));
 }
@@ -131,7 +166,7 @@ TEST(LinuxFolderTree, NamesAreBytesAndNeedNotBeUtf8) {
   bed.addFile("\xff\xfe\n");
 
   const auto root = bed.tree().openRoot(bed.root());
-  ASSERT_EQ(root->list().files, std::vector<std::string>{"\xff\xfe\n"});
+  ASSERT_EQ(listOf(*root).files, std::vector<std::string>{"\xff\xfe\n"});
   root->removeFile("\xff\xfe\n");
 
   EXPECT_FALSE(bed.has("\xff\xfe\n"));
@@ -206,7 +241,7 @@ TEST(LinuxFolderTree, ARootWhosePathEndsInADotOrTwoIsNeverALinksTarget) {
 
 // The walk is deeper than it has descriptors for, when the part that it is in is moved elsewhere.
 TEST(LinuxFolderTree, NothingOutsideTheRootIsReachedThroughAPartThatWasMovedAway) {
-  LinuxFolderTreeBed bed({.mostDescriptors = 3});
+  LinuxFolderTreeBed bed({.way = {.mostDescriptors = 3}});
   bed.addFile("root/a/b/c/d/file");
   bed.addFile("outside/a/b/file");
   auto root = bed.tree().openRoot(bed.path("root"));
@@ -222,11 +257,11 @@ TEST(LinuxFolderTree, NothingOutsideTheRootIsReachedThroughAPartThatWasMovedAway
   c.reset();
 
   EXPECT_THROW(b->removeFile("file"), Error);
-  EXPECT_THROW(b->list(), Error);
+  EXPECT_THROW(listOf(*b), Error);
   b.reset();
   EXPECT_THROW(a->removeFolder("b"), Error);
   a.reset();
-  EXPECT_EQ(root->list().subfolders, std::vector<std::string>{"a"});
+  EXPECT_EQ(listOf(*root).subfolders, std::vector<std::string>{"a"});
   EXPECT_TRUE(bed.has("outside/a/b/file"));
 }
 
@@ -249,7 +284,7 @@ TEST(LinuxFolderTree, FilesAreListedInTheOrderOfTheirInodes) {
   LinuxFolderTreeBed bed;
   for (const char* name : {"c", "a", "d", "b", "e"}) bed.addFile(name);
 
-  const std::vector<std::string> files = bed.tree().openRoot(bed.root())->list().files;
+  const std::vector<std::string> files = listOf(*bed.tree().openRoot(bed.root())).files;
 
   EXPECT_EQ(files.size(), 5U);
   EXPECT_TRUE(std::ranges::is_sorted(files, {}, [&bed](const std::string& name) {
@@ -257,6 +292,26 @@ TEST(LinuxFolderTree, FilesAreListedInTheOrderOfTheirInodes) {
     stat(bed.path(name).c_str(), &status);
     return status.st_ino;
   }));
+}
+
+// One piece of a listing holds some ten thousand names.
+TEST(LinuxFolderTree, AFolderOfManyPiecesIsListedWholeWithEventsInBetween) {
+  LinuxFolderTreeBed bed;
+  constexpr int kFiles = 40'000;
+  const Descriptor root(open(bed.root().c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC));
+  for (int number = 0; number < kFiles; ++number) {
+    const std::string name = "file number " + std::to_string(number);
+    ASSERT_EQ(mknodat(root.get(), name.c_str(), S_IFREG | 0600, 0), 0);
+  }
+  platform::MemoryEventPump pump;
+
+  const platform::FolderListing listing = bed.tree().openRoot(bed.root())->list(pump);
+
+  const std::set<std::string> names(listing.files.begin(), listing.files.end());
+  EXPECT_EQ(listing.files.size(), kFiles);
+  EXPECT_EQ(names.size(), kFiles);
+  EXPECT_TRUE(names.contains("file number 39999"));
+  EXPECT_GE(pump.calls(), 2);
 }
 
 }  // namespace

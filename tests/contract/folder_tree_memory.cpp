@@ -1,5 +1,6 @@
 #include "platform/error.h"
 #include "tests/contract/folder_tree_bed_memory.h"
+#include "tests/support/listing.h"
 
 namespace zelvane::test {
 namespace {
@@ -27,7 +28,7 @@ TEST(MemoryFolderTree, AFolderThatCannotBeListedCanBeOpened) {
   const auto root = bed.tree().openRoot(bed.root());
   const auto folder = root->openSubfolder("folder");
 
-  EXPECT_THROW(folder->list(), platform::Error);
+  EXPECT_THROW(listOf(*folder), platform::Error);
 }
 
 TEST(MemoryFolderTree, NothingIsDeletedFromSomebodyElsesFolder) {

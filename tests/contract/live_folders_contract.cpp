@@ -5,11 +5,11 @@
 
 #include "platform/error.h"
 #include "tests/contract/folder_tree_contract.h"
+#include "tests/support/listing.h"
 
 namespace zelvane::test {
 
 using platform::Error;
-using platform::FolderListing;
 using Names = std::vector<std::string>;
 
 std::unique_ptr<platform::OpenFolder> LiveFoldersContract::openRoot() {
@@ -32,7 +32,7 @@ TEST_P(LiveFoldersContract, StoresAreFilesAndRealFoldersAreSubfolders) {
   bed->addStore();
   bed->addRealFolder();
 
-  const FolderListing listing = openRoot()->list();
+  const Listing listing = listOf(*openRoot());
 
   EXPECT_EQ(listing.files.size(), 1U);
   EXPECT_EQ(listing.subfolders.size(), 1U);
@@ -43,25 +43,25 @@ TEST_P(LiveFoldersContract, AClosingSeparatorOfThePathDoesNotMatter) {
 
   const auto root = bed->live().openRoot(bed->live().path(bed->special()).value() + "/");
 
-  EXPECT_EQ(root->list().files.size(), 1U);
+  EXPECT_EQ(listOf(*root).files.size(), 1U);
 }
 
 TEST_P(LiveFoldersContract, AStoreIsErasedAndGoneFromTheNextListing) {
   bed->addStore();
   const auto root = openRoot();
-  const Names files = root->list().files;
+  const Names files = listOf(*root).files;
 
   root->removeFile(files.at(0));
 
   EXPECT_FALSE(bed->storeHoldsAnything());
-  EXPECT_TRUE(root->list().files.empty());
-  EXPECT_TRUE(openRoot()->list().files.empty());
+  EXPECT_TRUE(listOf(*root).files.empty());
+  EXPECT_TRUE(listOf(*openRoot()).files.empty());
 }
 
 TEST_P(LiveFoldersContract, AStoreThatIsErasedAlreadyCountsAsErased) {
   bed->addStore();
   const auto root = openRoot();
-  const Names files = root->list().files;
+  const Names files = listOf(*root).files;
   root->removeFile(files.at(0));
 
   EXPECT_NO_THROW(root->removeFile(files.at(0)));
@@ -72,24 +72,24 @@ TEST_P(LiveFoldersContract, AStoreInUseStaysAsItIs) {
   bed->addStore();
   bed->holdStore();
   const auto root = openRoot();
-  const Names files = root->list().files;
+  const Names files = listOf(*root).files;
 
   EXPECT_THROW(root->removeFile(files.at(0)), Error);
   EXPECT_TRUE(bed->storeHoldsAnything());
-  EXPECT_EQ(root->list().files, files);
+  EXPECT_EQ(listOf(*root).files, files);
 }
 
 TEST_P(LiveFoldersContract, ARealFolderIsErasedAndSurvivesItsOwnRemovalSilently) {
   bed->addRealFolder();
   const auto root = openRoot();
-  const Names folders = root->list().subfolders;
+  const Names folders = listOf(*root).subfolders;
 
   root->openSubfolder(folders.at(0))->removeFile("file");
   root->removeFolder(folders.at(0));
 
   EXPECT_FALSE(bed->realFolderHas("file"));
   EXPECT_TRUE(bed->realFolderHas(""));
-  EXPECT_EQ(root->list().subfolders, folders);
+  EXPECT_EQ(listOf(*root).subfolders, folders);
 }
 
 TEST_P(LiveFoldersContract, NothingIsLeftAfterAnErasureButThePlacesStay) {
@@ -108,7 +108,7 @@ TEST_P(LiveFoldersContract, FilesAndFoldersAreNotMistakenForEachOther) {
   bed->addStore();
   bed->addRealFolder();
   const auto root = openRoot();
-  const FolderListing listing = root->list();
+  const Listing listing = listOf(*root);
 
   EXPECT_THROW(root->removeFile(listing.subfolders.at(0)), Error);
   EXPECT_THROW(root->removeFolder(listing.files.at(0)), Error);
@@ -140,14 +140,14 @@ TEST_P(LiveFoldersContract, APlaceThatAppearsAfterThePathWasGivenIsInTheFolder) 
 
   bed->addRealFolder();
 
-  EXPECT_EQ(bed->live().openRoot(path)->list().subfolders.size(), 1U);
+  EXPECT_EQ(listOf(*bed->live().openRoot(path)).subfolders.size(), 1U);
 }
 
 TEST_P(LiveFoldersContract, AnyOtherPathIsTheDesktopsOwn) {
   bed->addStore();
   const std::string other = bed->addOtherFolder();
 
-  EXPECT_EQ(bed->live().openRoot(other)->list().files, Names{"other"});
+  EXPECT_EQ(listOf(*bed->live().openRoot(other)).files, Names{"other"});
   EXPECT_THROW(bed->live().openRoot(other + ", " + other), Error);
 }
 

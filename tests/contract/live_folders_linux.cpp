@@ -9,6 +9,7 @@
 #include "platform/linux/recently_used.h"
 #include "tests/contract/folder_tree_bed_linux.h"
 #include "tests/contract/live_folders_contract.h"
+#include "tests/support/listing.h"
 #include "tests/support/throw_away_environment.h"
 
 namespace zelvane::test {
@@ -61,8 +62,8 @@ class RecentlyUsedBed : public LiveFoldersBed {
   // Erases everything, and returns what is still listed.
   Names listedAfterErasing() {
     const auto root = live().openRoot(live().path(special()).value());
-    for (const std::string& file : root->list().files) root->removeFile(file);
-    return root->list().files;
+    for (const std::string& file : listOf(*root).files) root->removeFile(file);
+    return listOf(*root).files;
   }
 
   const std::string kShare = "home/.local/share";
@@ -123,7 +124,7 @@ TEST_F(RecentlyUsedTest, AListWithoutBookmarksIsNotListedAndNotTouched) {
 
   const auto root = bed.live().openRoot(bed.live().path(bed.special()).value());
 
-  EXPECT_TRUE(root->list().files.empty());
+  EXPECT_TRUE(listOf(*root).files.empty());
   EXPECT_EQ(bed.folder.read(bed.kXbel), kListWithoutBookmarks);
 }
 
@@ -183,7 +184,7 @@ TEST_F(RecentlyUsedTest, AFolderOfDocumentsThatIsALinkIsNotEntered) {
 
   const auto root = bed.live().openRoot(bed.live().path(bed.special()).value());
 
-  EXPECT_TRUE(root->list().subfolders.empty());
+  EXPECT_TRUE(listOf(*root).subfolders.empty());
 }
 
 TEST_F(RecentlyUsedTest, ContributesToTheRecentDocumentsAlone) {

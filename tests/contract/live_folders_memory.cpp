@@ -2,6 +2,7 @@
 #include "platform/memory/memory_special_folders.h"
 #include "tests/contract/folder_tree_bed_memory.h"
 #include "tests/contract/live_folders_contract.h"
+#include "tests/support/listing.h"
 
 namespace zelvane::test {
 namespace {
@@ -136,9 +137,9 @@ TEST_F(LiveFoldersTest, AProfileIsASubfolderOfStoresAndRealFolders) {
   const auto root = openRoot();
   const auto profile = root->openSubfolder("Default");
 
-  EXPECT_EQ(root->list().subfolders, Names{"Default"});
-  EXPECT_EQ(profile->list().files, Names{"visits"});
-  EXPECT_EQ(profile->list().subfolders, Names{"cache"});
+  EXPECT_EQ(listOf(*root).subfolders, Names{"Default"});
+  EXPECT_EQ(listOf(*profile).files, Names{"visits"});
+  EXPECT_EQ(listOf(*profile).subfolders, Names{"cache"});
 }
 
 TEST_F(LiveFoldersTest, AProfileSurvivesItsOwnRemovalSilently) {
@@ -150,7 +151,7 @@ TEST_F(LiveFoldersTest, AProfileSurvivesItsOwnRemovalSilently) {
   eraseBelow(*root);
 
   EXPECT_NO_THROW(root->removeFolder("Default"));
-  EXPECT_EQ(root->list().subfolders, Names{"Default"});
+  EXPECT_EQ(listOf(*root).subfolders, Names{"Default"});
   EXPECT_EQ(bed.source.memory.entries, 0);
   EXPECT_FALSE(bed.tree.fileSystem.has("/home/user/Recent/file"));
 }
@@ -160,7 +161,7 @@ TEST_F(LiveFoldersTest, NamesThatTwoSourcesUseAreToldApart) {
   bed.source.memory.entries = bed.second.memory.entries = 1;
 
   const auto root = openRoot();
-  ASSERT_EQ(root->list().files, (Names{"visits", "visits (2)"}));
+  ASSERT_EQ(listOf(*root).files, (Names{"visits", "visits (2)"}));
   root->removeFile("visits (2)");
 
   EXPECT_EQ(bed.source.memory.entries, 1);
@@ -172,7 +173,7 @@ TEST_F(LiveFoldersTest, AProfilesNameBecomesASingleName) {
   bed.source.profileName = "a/b\\c";
   bed.second.profileName = "..";
 
-  EXPECT_EQ(openRoot()->list().subfolders, (Names{"a_b_c", ".._"}));
+  EXPECT_EQ(listOf(*openRoot()).subfolders, (Names{"a_b_c", ".._"}));
 }
 
 TEST_F(LiveFoldersTest, TheDesktopsOwnFolderComesFirst) {
@@ -181,7 +182,7 @@ TEST_F(LiveFoldersTest, TheDesktopsOwnFolderComesFirst) {
   bed.addRealFolder();
 
   EXPECT_EQ(bed.live().path(SpecialFolder::recent), "/home/user/own, /home/user/Recent");
-  EXPECT_EQ(openRoot()->list().subfolders, (Names{"own", "Recent"}));
+  EXPECT_EQ(listOf(*openRoot()).subfolders, (Names{"own", "Recent"}));
 }
 
 TEST_F(LiveFoldersTest, AFolderToWhichNothingIsContributedIsTheDesktopsOwn) {
@@ -193,7 +194,7 @@ TEST_F(LiveFoldersTest, AFolderToWhichNothingIsContributedIsTheDesktopsOwn) {
   EXPECT_EQ(bed.live().path(SpecialFolder::recent), "/home/user/own");
   EXPECT_EQ(bed.live().path(SpecialFolder::cookies), "/home/user/own");
   EXPECT_EQ(bed.live().temporaryPath(), "/home/user/own/");
-  EXPECT_EQ(openRoot()->list().files, Names{"file"});
+  EXPECT_EQ(listOf(*openRoot()).files, Names{"file"});
 }
 
 // Contributes a store in each of many places.
@@ -222,7 +223,7 @@ TEST_F(LiveFoldersTest, MorePlacesThanAPathHasRoomForAreCountedAndAllErased) {
 
   EXPECT_LE(path.size(), 254U);
   EXPECT_TRUE(path.ends_with("x and 36 more")) << path;
-  EXPECT_EQ(live.openRoot(path)->list().files.size(), 40U);
+  EXPECT_EQ(listOf(*live.openRoot(path)).files.size(), 40U);
 }
 
 TEST_F(LiveFoldersTest, APlaceThatIsTooLongByItselfIsCounted) {
@@ -230,7 +231,7 @@ TEST_F(LiveFoldersTest, APlaceThatIsTooLongByItselfIsCounted) {
   LiveFolders live(bed.folders, bed.tree.tree(), {deep});
 
   EXPECT_EQ(live.path(SpecialFolder::recent), "2 places");
-  EXPECT_EQ(live.openRoot("2 places")->list().files.size(), 2U);
+  EXPECT_EQ(listOf(*live.openRoot("2 places")).files.size(), 2U);
 }
 
 TEST_F(LiveFoldersTest, AFolderWhoseSourcesAreGoneCannotBeOpened) {

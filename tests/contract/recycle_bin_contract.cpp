@@ -7,20 +7,20 @@ namespace zelvane::test {
 using platform::Error;
 using platform::ErrorNumber;
 
-TEST_P(RecycleBinContract, AnEmptyBinFreesNothing) { EXPECT_EQ(bed->bin().empty(), 0U); }
+TEST_P(RecycleBinContract, AnEmptyBinFreesNothing) { EXPECT_EQ(bed->empty(), 0U); }
 
 TEST_P(RecycleBinContract, EmptyingReportsTheBytesItFreed) {
   bed->put("a.txt", 3);
   bed->put("b.txt", 4);
 
-  EXPECT_EQ(bed->bin().empty(), 7U);
-  EXPECT_EQ(bed->bin().empty(), 0U);
+  EXPECT_EQ(bed->empty(), 7U);
+  EXPECT_EQ(bed->empty(), 0U);
 }
 
 TEST_P(RecycleBinContract, NothingCanBeRestoredAfterwards) {
   bed->put("a.txt", 3);
 
-  bed->bin().empty();
+  bed->empty();
 
   EXPECT_FALSE(bed->has("a.txt"));
 }
@@ -29,7 +29,7 @@ TEST_P(RecycleBinContract, TheBinsOfAllVolumesAreEmptied) {
   bed->put("a.txt", 3);
   bed->putFromOtherVolume("b.txt", 40);
 
-  EXPECT_EQ(bed->bin().empty(), 43U);
+  EXPECT_EQ(bed->empty(), 43U);
   EXPECT_FALSE(bed->has("a.txt"));
   EXPECT_FALSE(bed->has("b.txt"));
 }
@@ -43,7 +43,7 @@ TEST_P(RecycleBinContract, WhatRefusesStaysWithItsNoteAndIsReportedAfterTheRestI
 
   ErrorNumber thrown{};
   try {
-    bed->bin().empty();
+    bed->empty();
   } catch (const Error& error) {
     thrown = error.number();
   }

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/memory/memory_event_pump.h"
 #include "platform/recycle_bin.h"
 
 namespace zelvane::test {
@@ -16,6 +17,8 @@ class RecycleBinBed {
   virtual ~RecycleBinBed() = default;
 
   virtual platform::RecycleBin& bin() = 0;
+  std::uint64_t empty() { return bin().empty(pump); }
+  platform::MemoryEventPump pump;
 
   // Something of so many bytes that the user deleted: from the home, or from another volume.
   virtual void put(const std::string& name, std::size_t bytes) = 0;

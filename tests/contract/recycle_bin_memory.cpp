@@ -2,6 +2,7 @@
 
 #include "platform/memory/memory_recycle_bin.h"
 #include "tests/contract/recycle_bin_contract.h"
+#include "tests/support/no_events.h"
 
 namespace zelvane::test {
 namespace {
@@ -31,9 +32,10 @@ INSTANTIATE_TEST_SUITE_P(Memory, RecycleBinContract,
 
 TEST(MemoryRecycleBin, CountsHowOftenItWasEmptied) {
   MemoryRecycleBin bin;
+  NoEvents pump;
 
-  bin.empty();
-  bin.empty();
+  bin.empty(pump);
+  bin.empty(pump);
 
   EXPECT_EQ(bin.emptied(), 2);
 }
