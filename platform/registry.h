@@ -16,8 +16,9 @@ namespace zelvane::platform {
 // codes that most of its callers deliberately do not look at.
 //
 // Paths part keys by "\". Names of keys and values are told apart without regard to (ASCII) case;
-// the empty value name is a key's default value. A registry that cannot be read behaves as empty,
-// one that cannot be written answers `accessDenied`.
+// the empty value name is a key's default value. A registry that cannot be read or understood
+// (which `check` told) behaves as empty; one that cannot be written, these among them, answers
+// `accessDenied`.
 class Registry : public Port {
  public:
   enum class Root { classes, currentUser, localMachine };
@@ -45,6 +46,13 @@ class Registry : public Port {
 
     friend bool operator==(const Value&, const Value&) = default;
   };
+
+  // Looks the whole registry over, once, before the first key is opened. Nothing when all is well
+  // or there is none yet. One that cannot be understood, or comes from a newer format, is set aside
+  // under a name of its own (never one that exists) and a new one takes its place; one that cannot
+  // be read stays where it is. Then this returns what to tell the user: what happened, and the path
+  // under which the old one is to be found.
+  virtual std::optional<std::string> check() = 0;
 
   // Opens an existing key for full access. Each opened key is closed by `close` or by the end of
   // the process.

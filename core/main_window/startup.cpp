@@ -1,5 +1,7 @@
 #include "core/main_window/startup.h"
 
+#include <optional>
+
 #include "core/main_window/frm_main.h"
 #include "core/version_label.h"
 #include "platform/desktop.h"
@@ -7,6 +9,7 @@
 #include "platform/identity.h"
 #include "platform/process_end.h"
 #include "platform/profile_file.h"
+#include "platform/registry.h"
 #include "platform/settings_backend.h"
 #include "platform/single_instance.h"
 
@@ -22,12 +25,17 @@ void endSecondInstance(const platform::Desktop& desktop) {
   desktop.process.end();
 }
 
-void tellOfDamagedSettings(const platform::Desktop& desktop) {
-  if (const auto complaint = desktop.settings.check()) {
+void tell(const platform::Desktop& desktop, const std::optional<std::string>& complaint) {
+  if (complaint) {
     desktop.dialogs.show({.text = *complaint,
                           .title = desktop.identity.version().title,
                           .icon = platform::MessageIcon::exclamation});
   }
+}
+
+void tellOfDamagedStores(const platform::Desktop& desktop) {
+  tell(desktop, desktop.settings.check());
+  tell(desktop, desktop.registry.check());
 }
 
 // An entry that is there is somebody's choice, also an empty one, and is left alone.
@@ -44,7 +52,7 @@ void Main(const platform::Desktop& desktop, frmMain& window) {
   if (!desktop.instance.claim()) {
     endSecondInstance(desktop);
   }
-  tellOfDamagedSettings(desktop);
+  tellOfDamagedStores(desktop);
   writeMissingProfileEntry(desktop);
   window.show();
 }

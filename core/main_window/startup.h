@@ -14,8 +14,9 @@ class frmMain;
 
 namespace GenFunc {
 
-// Refuses to run twice, makes sure that the encrypted-file type has its entry in "WIN.INI", and
-// shows the window. A second instance says so in a box and ends before it has touched any window,
+// Refuses to run twice, tells of each store that is damaged or cannot be read (settings first) in a
+// box of its own, makes sure that the encrypted-file type has its entry in "WIN.INI", and shows the
+// window. A second instance says so in a box and ends before it has touched any window,
 // setting or profile. Returns once the window is shown; the program lives on in its event loop.
 void Main(const platform::Desktop& desktop, frmMain& window);
 

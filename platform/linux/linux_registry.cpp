@@ -109,15 +109,21 @@ std::string textFrom(std::span<const std::byte> data) {
 LinuxRegistry::LinuxRegistry(const Environment& environment)
     : file_(PrivateFile(environment.configHome + "/zelvane", "registry.json"), newHive()) {}
 
-void LinuxRegistry::setAsideOnce() {
-  if (std::exchange(lookedOver_, true)) return;
+std::optional<std::string> LinuxRegistry::check() {
   try {
-    file_.setAsideIfDamaged();
-  } catch (const Error&) {
-    // What cannot even be set aside behaves as empty, and refuses to be written.
+    const auto kept = file_.setAsideIfDamaged();
+    file_.read();
+    if (!kept) return std::nullopt;
+    return "The registry file is damaged, or a newer version of the program wrote it. It is kept "
+           "as "
+           "\"" +
+           *kept + "\"; a new one takes its place.";
+  } catch (const Error& error) {
+    return "The registry file cannot be read. " + error.text();
   }
 }
 
+// One that cannot be read has nothing in it; `check` has told the user.
 json LinuxRegistry::hive() const {
   try {
     return file_.read();
@@ -142,7 +148,6 @@ Registry::Opened LinuxRegistry::newHandle(Place place) {
 }
 
 Registry::Opened LinuxRegistry::open(Root root, const std::string& path) {
-  setAsideOnce();
   Place place = placeOf(root, path);
   json hive = this->hive();
   if (keyAt(hive, place) == nullptr) return {Result::notFound, 0};
@@ -150,7 +155,6 @@ Registry::Opened LinuxRegistry::open(Root root, const std::string& path) {
 }
 
 Registry::Opened LinuxRegistry::create(Root root, const std::string& path) {
-  setAsideOnce();
   Place place = placeOf(root, path);
   const Result result = change([&](json& hive) {
     makeKey(hive, place);
@@ -162,14 +166,14 @@ Registry::Opened LinuxRegistry::create(Root root, const std::string& path) {
 
 void LinuxRegistry::close(Key key) { handles_.erase(key); }
 
-Registry::Result LinuxRegistry::check(Key key) const {
+Registry::Result LinuxRegistry::stateOf(Key key) const {
   const auto handle = handles_.find(key);
   if (handle == handles_.end()) return Result::invalidHandle;
   return handle->second.deleted ? Result::notFound : Result::success;
 }
 
 std::optional<Registry::Value> LinuxRegistry::query(Key key, const std::string& name) const {
-  if (check(key) != Result::success) return std::nullopt;
+  if (stateOf(key) != Result::success) return std::nullopt;
   json hive = this->hive();
   const json* stored = memberIn(keyAt(hive, handles_.at(key).place), "values", toJsonText(name));
   return stored == nullptr ? std::nullopt : valueFrom(*stored);
@@ -177,7 +181,7 @@ std::optional<Registry::Value> LinuxRegistry::query(Key key, const std::string& 
 
 Registry::Result LinuxRegistry::set(Key key, const std::string& name, Type type,
                                     std::span<const std::byte> data) {
-  const Result known = check(key);
+  const Result known = stateOf(key);
   if (known != Result::success) return known;
   return change([&](json& hive) {
     json* place = keyAt(hive, handles_.at(key).place);
@@ -190,7 +194,7 @@ Registry::Result LinuxRegistry::set(Key key, const std::string& name, Type type,
 }
 
 Registry::Result LinuxRegistry::deleteValue(Key key, const std::string& name) {
-  const Result known = check(key);
+  const Result known = stateOf(key);
   if (known != Result::success) return known;
   return change([&](json& hive) {
     json* place = keyAt(hive, handles_.at(key).place);
@@ -202,7 +206,6 @@ Registry::Result LinuxRegistry::deleteValue(Key key, const std::string& name) {
 }
 
 Registry::Result LinuxRegistry::deleteKey(Root root, const std::string& path) {
-  setAsideOnce();
   Place place = placeOf(root, path);
   const Result result = change([&](json& hive) {
     const json* key = keyAt(hive, place);

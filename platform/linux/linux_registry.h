@@ -25,12 +25,12 @@ namespace zelvane::platform {
 //     VALUE:  { "type": 1, "data": "about:blank\u0000" }      1 is a string, 4 a number
 //
 // Names and data are kept as any bytes (see json_text.h). A new hive holds the keys that a new
-// desktop has. A file that cannot be understood is set aside under another name when the first key
-// is opened, and a new hive takes its place.
+// desktop has.
 class LinuxRegistry : public Registry {
  public:
   explicit LinuxRegistry(const Environment& environment);
 
+  std::optional<std::string> check() override;
   Opened open(Root root, const std::string& path) override;
   Opened create(Root root, const std::string& path) override;
   void close(Key key) override;
@@ -48,15 +48,13 @@ class LinuxRegistry : public Registry {
   };
 
   Opened newHandle(Place place);
-  Result check(Key key) const;
-  void setAsideOnce();
+  Result stateOf(Key key) const;
   nlohmann::json hive() const;
   Result change(const std::function<Result(nlohmann::json& hive)>& change);
 
   PrivateJsonFile file_;
   std::map<Key, Handle> handles_;
   Key lastKey_ = 0;
-  bool lookedOver_ = false;
 };
 
 }  // namespace zelvane::platform

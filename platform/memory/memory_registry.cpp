@@ -6,11 +6,23 @@
 
 namespace zelvane::platform {
 
-MemoryRegistry::MemoryRegistry() {
+MemoryRegistry::MemoryRegistry() { fillAsNew(); }
+
+void MemoryRegistry::fillAsNew() {
+  nodes_.clear();
   for (const Root root : {Root::classes, Root::currentUser, Root::localMachine}) {
     nodes_[idOf(root)];
   }
   for (const KeyPath& key : kKeysOfANewDesktop) addKey(key.root, std::string(key.path));
+}
+
+std::optional<std::string> MemoryRegistry::check() {
+  if (refusesReading_) return "The registry cannot be read.";
+  if (!damaged_) return std::nullopt;
+  damaged_ = false;
+  fillAsNew();
+  return "The registry was damaged. The old one is kept as \"registry.set-aside-" +
+         std::to_string(++setAside_) + "\".";
 }
 
 MemoryRegistry::NodeId MemoryRegistry::find(Root root, const std::string& path) const {
@@ -44,29 +56,30 @@ Registry::Opened MemoryRegistry::openNode(NodeId node, const std::string& path) 
 }
 
 Registry::Opened MemoryRegistry::open(Root root, const std::string& path) {
-  const NodeId node = find(root, path);
+  const NodeId node = isReadable() ? find(root, path) : kNoNode;
   if (node == kNoNode) return {Result::notFound, 0};
   return openNode(node, path);
 }
 
 Registry::Opened MemoryRegistry::create(Root root, const std::string& path) {
-  const NodeId node = make(root, path);
+  const NodeId node = isReadable() ? make(root, path) : kNoNode;
   if (node == kNoNode) return {Result::accessDenied, 0};
   return openNode(node, path);
 }
 
 void MemoryRegistry::close(Key key) { handles_.erase(key); }
 
-Registry::Result MemoryRegistry::check(Key key) const {
+Registry::Result MemoryRegistry::stateOf(Key key) const {
   const auto handle = handles_.find(key);
   if (handle == handles_.end()) return Result::invalidHandle;
+  if (!isReadable()) return Result::accessDenied;
   const auto node = nodes_.find(handle->second.node);
   if (node == nodes_.end()) return Result::notFound;
   return node->second.refused ? Result::accessDenied : Result::success;
 }
 
 std::optional<Registry::Value> MemoryRegistry::query(Key key, const std::string& name) const {
-  if (check(key) != Result::success) return std::nullopt;
+  if (stateOf(key) != Result::success) return std::nullopt;
   const auto& values = nodes_.at(handles_.at(key).node).values;
   const auto value = values.find(name);
   if (value == values.end()) return std::nullopt;
@@ -75,20 +88,21 @@ std::optional<Registry::Value> MemoryRegistry::query(Key key, const std::string&
 
 Registry::Result MemoryRegistry::set(Key key, const std::string& name, Type type,
                                      std::span<const std::byte> data) {
-  const Result result = check(key);
+  const Result result = stateOf(key);
   if (result != Result::success) return result;
   nodes_.at(handles_.at(key).node).values[name] = {type, {data.begin(), data.end()}};
   return Result::success;
 }
 
 Registry::Result MemoryRegistry::deleteValue(Key key, const std::string& name) {
-  const Result result = check(key);
+  const Result result = stateOf(key);
   if (result != Result::success) return result;
   const bool erased = nodes_.at(handles_.at(key).node).values.erase(name) > 0;
   return erased ? Result::success : Result::notFound;
 }
 
 Registry::Result MemoryRegistry::deleteKey(Root root, const std::string& path) {
+  if (!isReadable()) return Result::accessDenied;
   const NodeId node = find(root, path);
   if (node == kNoNode) return Result::notFound;
   if (node == idOf(root) || nodes_.at(node).refused || !nodes_.at(node).keys.empty()) {

@@ -1,4 +1,4 @@
-// A registry that knows which of its keys were never closed, and can refuse single keys.
+// A registry that knows which of its keys were never closed, and can be damaged or refuse.
 #pragma once
 
 #include <cstddef>
@@ -18,6 +18,7 @@ class MemoryRegistry : public Registry {
   // Holds the keys that a new desktop has, without any value.
   MemoryRegistry();
 
+  std::optional<std::string> check() override;
   Opened open(Root root, const std::string& path) override;
   Opened create(Root root, const std::string& path) override;
   void close(Key key) override;
@@ -41,6 +42,11 @@ class MemoryRegistry : public Registry {
   // From now on this key can be neither opened, written nor deleted, and none be made below it.
   void refuse(Root root, const std::string& path);
 
+  // Makes the registry one that cannot be understood, until `check` has set it aside ...
+  void damage() { damaged_ = true; }
+  // ... or from now on one that cannot be read at all.
+  void refuseEverything() { refusesReading_ = true; }
+
   // The keys that were opened and not closed, by the paths given, in the order of their opening.
   std::vector<std::string> openKeys() const;
 
@@ -62,12 +68,17 @@ class MemoryRegistry : public Registry {
   NodeId find(Root root, const std::string& path) const;
   NodeId make(Root root, const std::string& path);  // kNoNode where one above refuses
   Opened openNode(NodeId node, const std::string& path);
-  Result check(Key key) const;
+  Result stateOf(Key key) const;
+  bool isReadable() const { return !damaged_ && !refusesReading_; }
+  void fillAsNew();
 
   std::map<NodeId, Node> nodes_;
   std::map<Key, Handle> handles_;
   NodeId lastNode_ = idOf(Root::localMachine);
   Key lastKey_ = 0;
+  int setAside_ = 0;
+  bool damaged_ = false;
+  bool refusesReading_ = false;
 };
 
 }  // namespace zelvane::platform

@@ -1,3 +1,4 @@
+#include "platform/memory/faulty_clipboard.h"
 #include "platform/memory/memory_clipboard.h"
 #include "tests/contract/clipboard_contract.h"
 
@@ -19,6 +20,21 @@ std::unique_ptr<ClipboardBed> makeMemoryClipboardBed() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Memory, ClipboardContract, testing::Values(makeMemoryClipboardBed));
+
+// With no fault set a decorator is like what it wraps.
+class FaultyClipboardBed : public MemoryClipboardBed {
+ public:
+  platform::Clipboard& clipboard() override { return faulty_; }
+
+ private:
+  platform::Faults faults_;
+  platform::FaultyClipboard faulty_{MemoryClipboardBed::clipboard(), faults_};
+};
+
+INSTANTIATE_TEST_SUITE_P(Faulty, ClipboardContract,
+                         testing::Values([]() -> std::unique_ptr<ClipboardBed> {
+                           return std::make_unique<FaultyClipboardBed>();
+                         }));
 
 TEST(MemoryClipboard, CountsHowOftenItWasEmptied) {
   platform::MemoryClipboard clipboard;

@@ -1,4 +1,5 @@
 #include "platform/error.h"
+#include "platform/memory/faulty_files.h"
 #include "platform/memory/memory_files.h"
 #include "tests/contract/files_contract.h"
 
@@ -42,6 +43,20 @@ class MemoryFilesBed : public FilesBed {
 
 INSTANTIATE_TEST_SUITE_P(Memory, FilesContract, testing::Values([]() -> std::unique_ptr<FilesBed> {
                            return std::make_unique<MemoryFilesBed>();
+                         }));
+
+// With no fault set a decorator is like what it wraps.
+class FaultyFilesBed : public MemoryFilesBed {
+ public:
+  platform::Files& files() override { return faulty_; }
+
+ private:
+  platform::Faults faults_;
+  platform::FaultyFiles faulty_{MemoryFilesBed::files(), faults_};
+};
+
+INSTANTIATE_TEST_SUITE_P(Faulty, FilesContract, testing::Values([]() -> std::unique_ptr<FilesBed> {
+                           return std::make_unique<FaultyFilesBed>();
                          }));
 
 TEST(MemoryFiles, AFullDiskRefusesEveryWrite) {

@@ -1,4 +1,5 @@
 #include "platform/error.h"
+#include "platform/memory/faulty_folder_tree.h"
 #include "tests/contract/folder_tree_bed_memory.h"
 #include "tests/support/listing.h"
 
@@ -8,6 +9,21 @@ namespace {
 INSTANTIATE_TEST_SUITE_P(Memory, FolderTreeContract,
                          testing::Values([]() -> std::unique_ptr<FolderTreeBed> {
                            return std::make_unique<MemoryFolderTreeBed>();
+                         }));
+
+// With no fault set a decorator is like what it wraps.
+class FaultyFolderTreeBed : public MemoryFolderTreeBed {
+ public:
+  platform::FolderTree& tree() override { return faulty_; }
+
+ private:
+  platform::Faults faults_;
+  platform::FaultyFolderTree faulty_{MemoryFolderTreeBed::tree(), faults_};
+};
+
+INSTANTIATE_TEST_SUITE_P(Faulty, FolderTreeContract,
+                         testing::Values([]() -> std::unique_ptr<FolderTreeBed> {
+                           return std::make_unique<FaultyFolderTreeBed>();
                          }));
 
 TEST(MemoryFolderTree, WhatIsDeletedIsRecordedInItsOrder) {

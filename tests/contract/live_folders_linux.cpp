@@ -157,6 +157,29 @@ TEST_F(RecentlyUsedTest, CopiesBesideTheListAreDeleted) {
   EXPECT_TRUE(bed.folder.has(bed.kXbel));
 }
 
+TEST_F(RecentlyUsedTest, WhatAKilledErasureLeftBesideTheListGoesWithTheNextOne) {
+  const std::string left = bed.kShare + "/.zelvane-0123456789abcdef0123456789abcdef";
+  const std::string others = bed.kShare + "/.zelvane-notes";
+  bed.addStore();
+  bed.folder.write(left);
+  bed.folder.write(others);
+
+  bed.listedAfterErasing();
+
+  EXPECT_FALSE(bed.folder.has(left));
+  EXPECT_TRUE(bed.folder.has(others));
+}
+
+TEST_F(RecentlyUsedTest, WhatIsStillBeingWrittenBesideTheListStays) {
+  const std::string pending = bed.kShare + "/.zelvane-0123456789abcdef0123456789abcdef";
+  bed.addStore();
+  const platform::Descriptor held(open(bed.folder.write(pending).c_str(), O_WRONLY | O_CLOEXEC));
+
+  bed.listedAfterErasing();
+
+  EXPECT_TRUE(bed.folder.has(pending));
+}
+
 TEST_F(RecentlyUsedTest, ListsOfFormerDaysAreErased) {
   bed.folder.write("home/.recently-used.xbel", kList);
   bed.folder.write("home/.recently-used", "<RecentFiles/>");

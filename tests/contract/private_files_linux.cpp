@@ -183,6 +183,21 @@ TEST(PrivateFile, TheErrorNamesTheFile) {
   }
 }
 
+TEST(PrivateFile, TheErrorOfAWriteNamesTheFile) {
+  ThrowAwayFolder folder;
+  PrivateFile file(folder / "own", "file");
+  fs::create_directories(folder / "own/.lock");
+  fs::permissions(folder / "own", fs::perms::owner_all);
+
+  try {
+    file.update([](const auto&) { return "text"; });
+    FAIL() << "a file was written without its lock";
+  } catch (const Error& error) {
+    EXPECT_EQ(error.number(), ErrorNumber::accessError);
+    EXPECT_NE(error.text().find(folder / "own/file"), std::string::npos);
+  }
+}
+
 TEST(JsonText, ValidTextStaysAsItIs) {
   EXPECT_EQ(platform::toJsonText("Zürich, 東京, 😀"), "Zürich, 東京, 😀");
 }

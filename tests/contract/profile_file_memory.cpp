@@ -1,3 +1,4 @@
+#include "platform/memory/faulty_profile_file.h"
 #include "platform/memory/memory_profile_file.h"
 #include "tests/contract/profile_file_contract.h"
 
@@ -20,6 +21,21 @@ std::unique_ptr<ProfileFileBed> makeMemoryProfileFileBed() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Memory, ProfileFileContract, testing::Values(makeMemoryProfileFileBed));
+
+// With no fault set a decorator is like what it wraps.
+class FaultyProfileFileBed : public MemoryProfileFileBed {
+ public:
+  platform::ProfileFile& profile() override { return faulty_; }
+
+ private:
+  platform::Faults faults_;
+  platform::FaultyProfileFile faulty_{MemoryProfileFileBed::profile(), faults_};
+};
+
+INSTANTIATE_TEST_SUITE_P(Faulty, ProfileFileContract,
+                         testing::Values([]() -> std::unique_ptr<ProfileFileBed> {
+                           return std::make_unique<FaultyProfileFileBed>();
+                         }));
 
 }  // namespace
 }  // namespace zelvane::test

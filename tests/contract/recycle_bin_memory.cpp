@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "platform/memory/faulty_recycle_bin.h"
 #include "platform/memory/memory_recycle_bin.h"
 #include "tests/contract/recycle_bin_contract.h"
 #include "tests/support/no_events.h"
@@ -28,6 +29,21 @@ class MemoryRecycleBinBed : public RecycleBinBed {
 INSTANTIATE_TEST_SUITE_P(Memory, RecycleBinContract,
                          testing::Values([]() -> std::unique_ptr<RecycleBinBed> {
                            return std::make_unique<MemoryRecycleBinBed>();
+                         }));
+
+// With no fault set a decorator is like what it wraps.
+class FaultyRecycleBinBed : public MemoryRecycleBinBed {
+ public:
+  platform::RecycleBin& bin() override { return faulty_; }
+
+ private:
+  platform::Faults faults_;
+  platform::FaultyRecycleBin faulty_{MemoryRecycleBinBed::bin(), faults_};
+};
+
+INSTANTIATE_TEST_SUITE_P(Faulty, RecycleBinContract,
+                         testing::Values([]() -> std::unique_ptr<RecycleBinBed> {
+                           return std::make_unique<FaultyRecycleBinBed>();
                          }));
 
 TEST(MemoryRecycleBin, CountsHowOftenItWasEmptied) {

@@ -243,5 +243,70 @@ TEST_P(RegistryContract, AKeyThatCannotBeWrittenDeniesAccess) {
   EXPECT_EQ(registry.create(Root::classes, R"(.zvt\inner)").key, 0U);
 }
 
+TEST_P(RegistryContract, ARegistryThatDoesNotExistYetIsFine) {
+  EXPECT_EQ(registry.check(), std::nullopt);
+}
+
+TEST_P(RegistryContract, ARegistryWithValuesIsFineAndKeepsThem) {
+  set(registry.create(Root::classes, ".zvt").key, "value", "1");
+
+  EXPECT_EQ(registry.check(), std::nullopt);
+  EXPECT_EQ(data(registry.open(Root::classes, ".zvt").key, "value"), string("1"));
+}
+
+TEST_P(RegistryContract, ADamagedRegistryIsToldOnceAndGivesWayToANewOne) {
+  set(registry.create(Root::classes, ".zvt").key, "value", "1");
+  bed->damage();
+
+  const auto told = registry.check();
+
+  EXPECT_NE(told, std::nullopt);
+  EXPECT_EQ(registry.check(), std::nullopt);
+  EXPECT_EQ(registry.open(Root::classes, ".zvt").result, Result::notFound);
+  const auto key = registry.open(Root::currentUser, kMain).key;
+  EXPECT_EQ(set(key, "Start Page", "about:blank"), Result::success);
+  EXPECT_EQ(data(key, "Start Page"), string("about:blank"));
+}
+
+TEST_P(RegistryContract, EachDamagedRegistryIsKeptUnderAnotherName) {
+  bed->damage();
+  const auto first = registry.check();
+  bed->damage();
+  const auto second = registry.check();
+
+  EXPECT_NE(first, std::nullopt);
+  EXPECT_NE(second, std::nullopt);
+  EXPECT_NE(first, second);
+}
+
+TEST_P(RegistryContract, ADamagedRegistryIsNeitherReadNorWrittenOver) {
+  const auto key = registry.create(Root::classes, ".zvt").key;
+  set(key, "value", "1");
+  bed->damage();
+
+  EXPECT_EQ(registry.open(Root::currentUser, kMain).result, Result::notFound);
+  EXPECT_EQ(registry.create(Root::classes, ".zvt").result, Result::accessDenied);
+  EXPECT_EQ(data(key, "value"), std::nullopt);
+  EXPECT_EQ(set(key, "value", "2"), Result::accessDenied);
+  EXPECT_EQ(registry.deleteValue(key, "value"), Result::accessDenied);
+  EXPECT_EQ(registry.deleteKey(Root::classes, ".zvt"), Result::accessDenied);
+  EXPECT_NE(registry.check(), std::nullopt);
+}
+
+TEST_P(RegistryContract, ARegistryThatCannotBeReadHasNoKeysAndTakesNone) {
+  bed->makeUnreadable();
+
+  EXPECT_EQ(registry.open(Root::currentUser, kMain).result, Result::notFound);
+  EXPECT_EQ(registry.create(Root::classes, ".zvt").result, Result::accessDenied);
+  EXPECT_EQ(registry.deleteKey(Root::currentUser, kMain), Result::accessDenied);
+}
+
+TEST_P(RegistryContract, ARegistryThatCannotBeReadIsToldAndStaysWhereItIs) {
+  bed->makeUnreadable();
+
+  EXPECT_NE(registry.check(), std::nullopt);
+  EXPECT_NE(registry.check(), std::nullopt);
+}
+
 }  // namespace
 }  // namespace zelvane::test

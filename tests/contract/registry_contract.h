@@ -26,6 +26,11 @@ class RegistryBed {
 
   // From now on the key, which exists, cannot be written, nor one be made below it.
   virtual void makeUnwritable(platform::Registry::Root root, const std::string& path) = 0;
+
+  // Makes the registry one that nobody understands ...
+  virtual void damage() = 0;
+  // ... or one that cannot be read at all.
+  virtual void makeUnreadable() = 0;
 };
 
 using MakeRegistryBed = std::unique_ptr<RegistryBed> (*)();

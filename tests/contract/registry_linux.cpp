@@ -1,8 +1,13 @@
+#include <cstdint>
 #include <filesystem>
+#include <random>
+#include <string>
+#include <vector>
 
 #include <nlohmann/json.hpp>
 
 #include "platform/linux/linux_registry.h"
+#include "platform/linux/private_file.h"
 #include "tests/contract/child_process_linux.h"
 #include "tests/contract/registry_contract.h"
 #include "tests/support/throw_away_environment.h"
@@ -19,6 +24,7 @@ using Result = Registry::Result;
 using Type = Registry::Type;
 
 constexpr const char* kFile = "home/.config/zelvane/registry.json";
+constexpr const char* kSetAside = "home/.config/zelvane/registry.json.set-aside-1";
 constexpr const char* kRun = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
 
 class LinuxRegistryBed : public RegistryBed {
@@ -29,6 +35,8 @@ class LinuxRegistryBed : public RegistryBed {
     fs::remove(folder_ / kFile);
     fs::create_directories(folder_ / kFile);
   }
+  void damage() override { folder_.write(kFile, "{ \"format\": 1, \"classes\": {"); }
+  void makeUnreadable() override { fs::create_directories(folder_ / kFile); }
 
  private:
   ThrowAwayFolder folder_;
@@ -47,6 +55,12 @@ class LinuxRegistryTest : public testing::Test {
     return registry.set(key, "Zelvane", Type::string, bytesOf(text));
   }
   auto run() { return registry.query(registry.open(Root::currentUser, kRun).key, "Zelvane"); }
+
+  static std::string textOf(const Registry::Value& value) {
+    std::string text;
+    for (const std::byte byte : value.data) text += std::to_integer<char>(byte);
+    return text;
+  }
 
   ThrowAwayFolder home;
   LinuxRegistry registry{environmentIn(home)};
@@ -150,13 +164,125 @@ TEST_F(LinuxRegistryTest, WhatIsNoKeyIsNotThereAndIsKept) {
   EXPECT_EQ(home.read(kFile), content);
 }
 
-TEST_F(LinuxRegistryTest, ADamagedHiveIsKeptAsideAndANewOneTakesItsPlace) {
+TEST_F(LinuxRegistryTest, ADamagedHiveIsKeptAsItWasUnderTheNameThatIsTold) {
   home.write(kFile, "damaged");
 
-  EXPECT_EQ(setRun("text"), Result::success);
+  const auto told = registry.check();
 
+  ASSERT_NE(told, std::nullopt);
+  EXPECT_NE(told->find(home / kSetAside), std::string::npos);
+  EXPECT_EQ(home.read(kSetAside), "damaged");
+  EXPECT_EQ(setRun("text"), Result::success);
   EXPECT_EQ(run(), (Registry::Value{Type::string, bytesOf("text")}));
-  EXPECT_EQ(home.read(std::string(kFile) + ".set-aside-1"), "damaged");
+}
+
+TEST_F(LinuxRegistryTest, AHiveThatNobodyCheckedIsNotSetAside) {
+  home.write(kFile, "damaged");
+
+  EXPECT_EQ(registry.open(Root::currentUser, kRun).result, Result::notFound);
+  EXPECT_EQ(registry.create(Root::currentUser, kRun).result, Result::accessDenied);
+
+  EXPECT_EQ(home.read(kFile), "damaged");
+  EXPECT_FALSE(home.has(kSetAside));
+}
+
+TEST_F(LinuxRegistryTest, AHiveCutAnywhereIsSetAsideAsItWas) {
+  setRun("text");
+  const std::string whole = home.read(kFile);
+  const std::size_t closingBrace = whole.rfind('}');
+
+  for (std::size_t length = 0; length <= closingBrace; ++length) {
+    home.write(kFile, whole.substr(0, length));
+
+    EXPECT_NE(registry.check(), std::nullopt) << length;
+    EXPECT_FALSE(home.has(kFile));
+    EXPECT_EQ(home.read(kSetAside), whole.substr(0, length));
+    fs::remove(home / kSetAside);
+  }
+}
+
+TEST_F(LinuxRegistryTest, NoiseIsSetAsideAsItWas) {
+  for (std::uint32_t seed = 0; seed < 100; ++seed) {
+    std::mt19937 random(seed);
+    std::string noise(random() % 300, '\0');
+    for (char& c : noise) c = static_cast<char>(random());
+    home.write(kFile, noise);
+
+    EXPECT_NE(registry.check(), std::nullopt) << seed;
+    EXPECT_EQ(home.read(std::string(kFile) + ".set-aside-" + std::to_string(seed + 1)), noise);
+  }
+}
+
+TEST_F(LinuxRegistryTest, WhatIsWellFormedButNoHiveIsSetAside) {
+  const std::vector<std::string> contents = {"[]",
+                                             "null",
+                                             "7",
+                                             "{}",
+                                             R"({"format":"1"})",
+                                             R"({"format":-1})",
+                                             R"({"format":1.0})",
+                                             R"({"format":1,"classes":[]})",
+                                             R"({"format":1,"currentUser":7})",
+                                             R"({"format":1,"localMachine":null})"};
+  for (const std::string& content : contents) {
+    home.write(kFile, content);
+
+    EXPECT_NE(registry.check(), std::nullopt) << content;
+    EXPECT_FALSE(home.has(kFile));
+  }
+}
+
+TEST_F(LinuxRegistryTest, AHiveNestedWithoutEndIsSetAside) {
+  const std::string brackets(1'000'000, '[');
+  home.write(kFile, R"({"format":1,"future":)" + brackets + std::string(1'000'000, ']') + "}");
+
+  EXPECT_EQ(registry.create(Root::classes, ".dvk").result, Result::accessDenied);
+  EXPECT_NE(registry.check(), std::nullopt);
+}
+
+TEST_F(LinuxRegistryTest, AHiveOfANewerFormatIsSetAsideAsItWas) {
+  const std::string newer = R"({"format":2,"keys":["all"]})";
+  home.write(kFile, newer);
+
+  EXPECT_NE(registry.check(), std::nullopt);
+  EXPECT_EQ(home.read(kSetAside), newer);
+}
+
+TEST_F(LinuxRegistryTest, AHiveThatIsTooBigIsNeverReadInAndIsSetAside) {
+  home.write(kFile, R"({"format":1})");
+  fs::resize_file(home / kFile, platform::PrivateFile::kLimit + 1);
+
+  EXPECT_EQ(registry.open(Root::classes, "").result, Result::notFound);
+  EXPECT_EQ(registry.create(Root::classes, ".dvk").result, Result::accessDenied);
+  EXPECT_NE(registry.check(), std::nullopt);
+  EXPECT_EQ(fs::file_size(home / kSetAside), platform::PrivateFile::kLimit + 1);
+}
+
+TEST_F(LinuxRegistryTest, AValueThatWouldMakeTheHiveTooBigIsRefusedAndLosesNothing) {
+  setRun("text");
+
+  EXPECT_EQ(setRun(std::string(platform::PrivateFile::kLimit, 'x')), Result::accessDenied);
+  EXPECT_EQ(run(), (Registry::Value{Type::string, bytesOf("text")}));
+}
+
+TEST_F(LinuxRegistryTest, AKillLosesNothingThatWasSet) {
+  for (int round = 1; round <= 20; ++round) {
+    ChildProcess writer([this](const Say& say) {
+      for (int i = 1;; ++i) {
+        setRun(std::to_string(i));
+        say(std::to_string(i));
+      }
+    });
+    std::string last;
+    for (int i = 0; i < round; ++i) last = writer.hearLine();
+    writer.kill();
+
+    const auto value = run();
+    EXPECT_EQ(last, std::to_string(round));
+    EXPECT_EQ(registry.check(), std::nullopt);
+    ASSERT_NE(value, std::nullopt);
+    EXPECT_GE(std::stoi(textOf(*value)), round);
+  }
 }
 
 TEST_F(LinuxRegistryTest, AHiveThatIsDamagedMeanwhileIsNotWrittenOver) {
@@ -173,6 +299,7 @@ TEST_F(LinuxRegistryTest, ALinkInPlaceOfTheHiveIsAnEmptyRegistryThatCannotBeWrit
   fs::create_directories(home / "home/.config/zelvane");
   fs::create_symlink(home / "elsewhere.json", home / kFile);
 
+  EXPECT_NE(registry.check(), std::nullopt);
   EXPECT_EQ(registry.open(Root::classes, "").result, Result::notFound);
   EXPECT_EQ(registry.create(Root::classes, ".dvk").result, Result::accessDenied);
   EXPECT_EQ(home.read("elsewhere.json"), R"({"format":1,"classes":{}})");

@@ -1,3 +1,4 @@
+#include "platform/memory/faulty_registry.h"
 #include "platform/memory/memory_registry.h"
 #include "tests/contract/registry_contract.h"
 
@@ -14,6 +15,8 @@ class MemoryRegistryBed : public RegistryBed {
   platform::Registry& registry() override { return registry_; }
   platform::Registry& inAnotherProcess() override { return registry_; }
   void makeUnwritable(Root root, const std::string& path) override { registry_.refuse(root, path); }
+  void damage() override { registry_.damage(); }
+  void makeUnreadable() override { registry_.refuseEverything(); }
 
  private:
   MemoryRegistry registry_;
@@ -24,6 +27,21 @@ std::unique_ptr<RegistryBed> makeMemoryRegistryBed() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Memory, RegistryContract, testing::Values(makeMemoryRegistryBed));
+
+// With no fault set a decorator is like what it wraps.
+class FaultyRegistryBed : public MemoryRegistryBed {
+ public:
+  platform::Registry& registry() override { return faulty_; }
+
+ private:
+  platform::Faults faults_;
+  platform::FaultyRegistry faulty_{MemoryRegistryBed::registry(), faults_};
+};
+
+INSTANTIATE_TEST_SUITE_P(Faulty, RegistryContract,
+                         testing::Values([]() -> std::unique_ptr<RegistryBed> {
+                           return std::make_unique<FaultyRegistryBed>();
+                         }));
 
 TEST(MemoryRegistry, KnowsWhichKeysWereNeverClosed) {
   MemoryRegistry registry;

@@ -2,6 +2,7 @@
 #include <vector>
 
 #include "platform/error.h"
+#include "platform/memory/faulty_settings.h"
 #include "platform/memory/memory_settings.h"
 #include "tests/contract/settings_contract.h"
 
@@ -26,6 +27,21 @@ std::unique_ptr<SettingsBed> makeMemorySettingsBed() {
 }
 
 INSTANTIATE_TEST_SUITE_P(Memory, SettingsContract, testing::Values(makeMemorySettingsBed));
+
+// With no fault set a decorator is like what it wraps.
+class FaultySettingsBed : public MemorySettingsBed {
+ public:
+  platform::SettingsBackend& settings() override { return faulty_; }
+
+ private:
+  platform::Faults faults_;
+  platform::FaultySettings faulty_{MemorySettingsBed::settings(), faults_};
+};
+
+INSTANTIATE_TEST_SUITE_P(Faulty, SettingsContract,
+                         testing::Values([]() -> std::unique_ptr<SettingsBed> {
+                           return std::make_unique<FaultySettingsBed>();
+                         }));
 
 TEST(MemorySettings, RemembersTheOrderOfTheSaves) {
   MemorySettings settings;

@@ -1,3 +1,4 @@
+#include "platform/memory/faulty_special_folders.h"
 #include "platform/memory/memory_special_folders.h"
 #include "tests/contract/special_folders_contract.h"
 
@@ -28,6 +29,21 @@ class MemorySpecialFoldersBed : public SpecialFoldersBed {
 INSTANTIATE_TEST_SUITE_P(Memory, SpecialFoldersContract,
                          testing::Values([]() -> std::unique_ptr<SpecialFoldersBed> {
                            return std::make_unique<MemorySpecialFoldersBed>();
+                         }));
+
+// With no fault set a decorator is like what it wraps.
+class FaultySpecialFoldersBed : public MemorySpecialFoldersBed {
+ public:
+  platform::SpecialFolders& folders() override { return faulty_; }
+
+ private:
+  platform::Faults faults_;
+  platform::FaultySpecialFolders faulty_{MemorySpecialFoldersBed::folders(), faults_};
+};
+
+INSTANTIATE_TEST_SUITE_P(Faulty, SpecialFoldersContract,
+                         testing::Values([]() -> std::unique_ptr<SpecialFoldersBed> {
+                           return std::make_unique<FaultySpecialFoldersBed>();
                          }));
 
 TEST(MemorySpecialFolders, AreNowhereAtFirst) {

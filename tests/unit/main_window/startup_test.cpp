@@ -18,6 +18,7 @@ TEST_F(StartupTest, TheFirstInstanceShowsItsLoadedWindow) {
 TEST_F(StartupTest, ASecondInstanceSaysSoAndEndsBeforeItTouchesAnything) {
   desktop.instance.heldByAnother = true;
   desktop.settings.damage();
+  desktop.registry.damage();
 
   EXPECT_THROW(start(), platform::ProcessEnded);
 
@@ -79,6 +80,43 @@ TEST_F(StartupTest, DamagedSettingsAreToldInABoxOfTheirOwnBeforeTheWindowLoads) 
   EXPECT_EQ(desktop.dialogs.boxes().size(), 1U);
   EXPECT_FALSE(visible);
   EXPECT_EQ(caption, "Zelvane");
+  EXPECT_EQ(window.mainPage.lblStatus.caption(), "Ready");
+}
+
+TEST_F(StartupTest, ADamagedRegistryIsToldInABoxOfItsOwnBeforeTheWindowLoads) {
+  desktop.registry.damage();
+  std::string caption;
+  desktop.dialogs.whileOpen([&] { caption = window.mainPage.form.caption(); });
+
+  start();
+
+  ASSERT_EQ(desktop.dialogs.boxes().size(), 1U);
+  EXPECT_EQ(desktop.dialogs.boxes()[0].title, "Zelvane");
+  EXPECT_EQ(desktop.dialogs.boxes()[0].icon, platform::MessageIcon::exclamation);
+  EXPECT_EQ(caption, "Zelvane");
+  EXPECT_EQ(desktop.registry.text(Root::currentUser, kBrowserMain, "Start Page"), "about:blank");
+  EXPECT_EQ(window.mainPage.lblStatus.caption(), "Ready");
+}
+
+TEST_F(StartupTest, OfTwoDamagedStoresTheSettingsAreToldFirst) {
+  desktop.settings.damage();
+  desktop.registry.damage();
+
+  start();
+
+  ASSERT_EQ(desktop.dialogs.boxes().size(), 2U);
+  EXPECT_NE(desktop.dialogs.boxes()[0].text.find("settings"), std::string::npos);
+  EXPECT_NE(desktop.dialogs.boxes()[1].text.find("registry"), std::string::npos);
+}
+
+TEST_F(StartupTest, StoresThatCannotBeReadAreToldAndTheWindowLoadsAllTheSame) {
+  desktop.settings.refuseEverything();
+  desktop.registry.refuseEverything();
+
+  start();
+
+  EXPECT_EQ(desktop.dialogs.boxes().size(), 2U);
+  EXPECT_TRUE(window.mainPage.form.visible());
   EXPECT_EQ(window.mainPage.lblStatus.caption(), "Ready");
 }
 
