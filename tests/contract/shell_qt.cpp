@@ -71,6 +71,17 @@ TEST_F(QtShellTest, ACaptionIsTheNameWithoutTheMarkOfItsAccessKey) {
   EXPECT_EQ(widgetOf(window.schedulePage.cmbDays)->accessibleName(), "Run on:");
 }
 
+TEST_F(QtShellTest, ANoteIsQuieterThanTheCaptionAboveIt) {
+  const QWidget& caption = *widgetOf(window.cleanerPage.chkSettings[5]);
+  const auto notes = caption.parentWidget()->findChildren<QLabel*>();
+  ASSERT_EQ(notes.size(), 1);
+
+  const QWidget& note = *notes.front();
+
+  EXPECT_GT(note.palette().color(note.foregroundRole()).lightness(),
+            caption.palette().color(caption.foregroundRole()).lightness());
+}
+
 TEST_F(QtShellTest, WhatIsDisabledByItsFrameCannotBeUsedOnTheScreen) {
   EXPECT_FALSE(widgetOf(window.schedulePage.cmbDays)->isEnabled());
   EXPECT_FALSE(widgetOf(window.fileSecurityPage.cmdEncrypt)->isEnabled());

@@ -2,14 +2,39 @@
 
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QPainter>
 #include <QScrollArea>
 #include <QStyle>
+#include <QSvgRenderer>
 
 #include "ui/qt/mirror/check_box_widget.h"
 #include "ui/qt/mirror/follow.h"
 #include "ui/qt/mirror/note.h"
 
 namespace zelvane::qt {
+
+namespace {
+
+// Our own, because looking for the desktop's takes a fifth of the time until the window is there.
+class WarningSign : public QWidget {
+ public:
+  explicit WarningSign(QWidget& parent)
+      : QWidget(&parent), drawing_(QStringLiteral(":/zelvane/warning.svg")) {
+    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
+    setFixedSize(side, side);
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    drawing_.render(&painter, rect());
+  }
+
+ private:
+  QSvgRenderer drawing_;
+};
+
+}  // namespace
 
 int smallGap(const QWidget& widget) { return widget.fontMetrics().height() / 2; }
 
@@ -74,10 +99,6 @@ void Card::add(QLayout& row) {
 OptionRow::OptionRow(controls::CheckBox& control, Harm harm, QWidget& parent) : QWidget(&parent) {
   auto* box = new CheckBoxWidget(control, *this);
   auto* note = new Note(*this);
-  follow(control, *note, [&control, note] {
-    note->setText(QString::fromStdString(control.description()));
-    note->setVisible(!control.description().empty());
-  });
 
   const int indent = style()->pixelMetric(QStyle::PM_IndicatorWidth, nullptr, box) +
                      style()->pixelMetric(QStyle::PM_CheckBoxLabelSpacing, nullptr, box);
@@ -93,11 +114,14 @@ OptionRow::OptionRow(controls::CheckBox& control, Harm harm, QWidget& parent) : 
   auto* row = new QHBoxLayout(this);
   row->addLayout(texts, 1);
   if (harm == Harm::lasting) {
-    auto* sign = new QLabel(this);
-    const int side = style()->pixelMetric(QStyle::PM_SmallIconSize);
-    sign->setPixmap(style()->standardIcon(QStyle::SP_MessageBoxWarning).pixmap(side));
-    row->addWidget(sign);
+    row->addWidget(new WarningSign(*this));
   }
+
+  // Only now: a text that is shown outside a layout is measured for nothing.
+  follow(control, *note, [&control, note] {
+    note->setText(QString::fromStdString(control.description()));
+    note->setVisible(!control.description().empty());
+  });
 }
 
 }  // namespace zelvane::qt

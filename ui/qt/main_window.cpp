@@ -67,8 +67,9 @@ MainWindow::MainWindow(main_window::frmMain& window, OpenBoxes& boxes)
     : FormWidget(window.mainPage.form, nullptr, Qt::Window) {
   setWindowIcon(icon(controls::Picture::Image::programIcon));
   layOut(window);
-  nameByLabels(window);
-  orderTabKeys(window);
+  const Widgets widgets = widgetsByName();
+  nameByLabels(window, widgets);
+  orderTabKeys(window, widgets);
   for (const controls::Page* page : window.pages()) {
     for (controls::Control* control : page->controls()) {
       if (auto* timer = dynamic_cast<controls::Timer*>(control)) {
@@ -105,26 +106,34 @@ void MainWindow::layOut(main_window::frmMain& window) {
   resize((roomFor(*tabs) + chrome).boundedTo(screen()->availableSize() * 0.9));
 }
 
-void MainWindow::nameByLabels(main_window::frmMain& window) {
+MainWindow::Widgets MainWindow::widgetsByName() const {
+  Widgets widgets;
+  for (QWidget* widget : findChildren<QWidget*>()) {
+    widgets.insert(widget->objectName(), widget);
+  }
+  return widgets;
+}
+
+void MainWindow::nameByLabels(main_window::frmMain& window, const Widgets& widgets) {
   for (const controls::Page* page : window.pages()) {
     for (controls::Control* control : page->controls()) {
       auto* label = dynamic_cast<controls::Label*>(control);
       if (label == nullptr || label->buddy() == nullptr) {
         continue;
       }
-      auto* widget = findChild<QLabel*>(QString::fromStdString(label->name()));
-      auto* buddy = findChild<QWidget*>(QString::fromStdString(label->buddy()->name()));
+      auto* widget = qobject_cast<QLabel*>(widgets[QString::fromStdString(label->name())]);
+      QWidget* buddy = widgets[QString::fromStdString(label->buddy()->name())];
       widget->setBuddy(buddy);
       follow(*label, *buddy, [label, buddy] { nameAloud(*buddy, plainCaption(label->caption())); });
     }
   }
 }
 
-void MainWindow::orderTabKeys(main_window::frmMain& window) {
+void MainWindow::orderTabKeys(main_window::frmMain& window, const Widgets& widgets) {
   QWidget* before = nullptr;
   for (const auto& page : window.tabPages()) {
     for (const controls::Control* control : page) {
-      auto* widget = findChild<QWidget*>(QString::fromStdString(control->name()));
+      QWidget* widget = widgets[QString::fromStdString(control->name())];
       // An order with a label in it, which is no stop, would be passed over by the toolkit.
       if (widget == nullptr || !isTabStop(*widget)) {
         continue;

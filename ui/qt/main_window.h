@@ -1,6 +1,9 @@
 // The program's window on the screen: every control of frmMain has its widget here.
 #pragma once
 
+#include <QHash>
+#include <QString>
+
 #include "core/main_window/frm_main.h"
 #include "ui/qt/mirror/form_widget.h"
 #include "ui/qt/mirror/open_boxes.h"
@@ -13,9 +16,13 @@ class MainWindow : public FormWidget {
   MainWindow(main_window::frmMain& window, OpenBoxes& boxes);
 
  private:
+  // The widgets of controls, by the controls' names.
+  using Widgets = QHash<QString, QWidget*>;
+
   void layOut(main_window::frmMain& window);
-  void nameByLabels(main_window::frmMain& window);
-  void orderTabKeys(main_window::frmMain& window);
+  Widgets widgetsByName() const;
+  void nameByLabels(main_window::frmMain& window, const Widgets& widgets);
+  void orderTabKeys(main_window::frmMain& window, const Widgets& widgets);
 };
 
 }  // namespace zelvane::qt

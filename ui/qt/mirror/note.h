@@ -1,7 +1,9 @@
 // A quiet line of explanation below a caption.
 #pragma once
 
+#include <QHash>
 #include <QLabel>
+#include <QString>
 
 namespace zelvane::qt {
 
@@ -11,11 +13,17 @@ class Note : public QLabel {
  public:
   explicit Note(QWidget& parent);
 
+  // A layout asks again and again for the same few widths, and each answer lays out the text.
+  int heightForWidth(int width) const override;
+
  protected:
   void changeEvent(QEvent* event) override;
 
  private:
   void dim();
+
+  mutable QHash<int, int> heights_;  // by width
+  mutable QString measured_;         // the text whose heights these are
 };
 
 }  // namespace zelvane::qt
