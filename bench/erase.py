@@ -1,86 +1,69 @@
 #!/usr/bin/python3
-"""Erasing a tree of many files, against `rm -rf` of the same tree.
+"""Erasing a tree of many files through the folder tree, against other ways to do it."""
 
-    erase.py --program BUILT_ERASE --output docs/performance.md [--folders N] [--files N] [--rounds N]
-"""
-
-import argparse
 import os
 import pathlib
-import shutil
-import subprocess
 import tempfile
 
+import section
+import trees
 import turns
 
-
-def arguments():
-    parser = argparse.ArgumentParser(description=__doc__.splitlines()[0])
-    parser.add_argument("--program", type=pathlib.Path, required=True)
-    parser.add_argument("--output", type=pathlib.Path, required=True)
-    parser.add_argument("--folders", type=int, default=1000)
-    parser.add_argument("--files", type=int, default=100, help="in each folder")
-    parser.add_argument("--rounds", type=int, default=9)
-    return parser.parse_args()
-
-
-def make_tree(place, folders, files):
-    root = pathlib.Path(tempfile.mkdtemp(prefix="tree-", dir=place))
-    for number in range(folders):
-        folder = root / f"folder {number}"
-        folder.mkdir()
-        for name in range(files):
-            os.close(os.open(folder / f"file {name}.txt", os.O_CREAT | os.O_EXCL | os.O_WRONLY, 0o600))
-    return root
+CLEANER = """<?xml version="1.0" encoding="UTF-8"?>
+<cleaner id="bench">
+  <label>Bench</label>
+  <description>One tree</description>
+  <option id="tree">
+    <label>Tree</label>
+    <description>One tree</description>
+    <action command="delete" search="walk.all" path="{tree}"/>
+  </option>
+</cleaner>
+"""
 
 
-def must_be_empty(root):
-    """A contestant that left something would be fast for no merit."""
-    if root.exists():
-        if any(root.iterdir()):
-            raise SystemExit(f"{root} is not empty.")
-        root.rmdir()
+class BleachBit(turns.Command):
+    """A cleaner like this one. It is told by a file of its own what to erase, in a home of its own."""
+
+    def __init__(self, home):
+        super().__init__("BleachBit", lambda root: ["bleachbit", "--clean", "bench.tree"],
+                         environment={"PATH": os.environ["PATH"], "LANG": "C.UTF-8",
+                                      "HOME": str(home)})
+        self._cleaners = home / ".config" / "bleachbit" / "cleaners"
+        self._cleaners.mkdir(parents=True)
+
+    def measure(self, work):
+        (self._cleaners / "bench.xml").write_text(CLEANER.format(tree=work), "utf-8")
+        return super().measure(work)
+
+
+def contestants(options, home):
+    program = str(options.build / "erase")
+    peer = turns.Command("`rm -rf`", lambda root: ["rm", "-rf", str(root)])
+    return [
+        peer,
+        turns.Command("Zelvane, through its folder tree",
+                      lambda root: [program, "port", str(root)], goals=[(peer, 1.0)]),
+        turns.Command("`std::filesystem::remove_all`",
+                      lambda root: [program, "remove_all", str(root)]),
+        BleachBit(home),
+    ]
 
 
 def main():
-    options = arguments()
-    peer = turns.Contestant("`rm -rf`", lambda root: ["rm", "-rf", str(root)])
-    contestants = [
-        peer,
-        turns.Contestant("Zelvane, through its folder tree",
-                         lambda root: [str(options.program), "port", str(root)]),
-        turns.Contestant("`std::filesystem::remove_all`",
-                         lambda root: [str(options.program), "remove_all", str(root)]),
-    ]
-    place = tempfile.mkdtemp(prefix="zelvane-bench-")
-    file_system = subprocess.run(["stat", "-f", "-c", "%T", place], check=True, text=True,
-                                 stdout=subprocess.PIPE).stdout.strip()
-    load_before = os.getloadavg()[0]
-    try:
-        turns.take_turns(contestants, options.rounds,
-                         lambda: make_tree(place, options.folders, options.files), must_be_empty)
-    finally:
-        shutil.rmtree(place, ignore_errors=True)
-    options.output.write_text(page(options, contestants, peer, load_before, file_system),
-                              encoding="utf-8")
-    print(options.output.read_text(encoding="utf-8"))
-
-
-def page(options, contestants, peer, load_before, file_system):
-    number = options.folders * options.files
-    return f"""# Performance
-
-Written by `./bench/run`. Whole processes, turn by turn, {options.rounds} rounds; each ratio is to the first
-line. Load of the machine, which has {os.cpu_count()} processors: {load_before:.2f} before,
-{os.getloadavg()[0]:.2f} after. File system: {file_system}.
-
-## Erasing {number:,} empty files in {options.folders:,} folders
-
-{turns.table(contestants, peer)}
-
-Zelvane's line includes its checks: no link followed, no mount entered, files in use left alone, which
-takes one look at the open files of all processes at the start.
-"""
+    options = section.read_options(__doc__)
+    page = section.Section(f"Erasing {trees.size(options)}", options.rounds)
+    for place in options.places:
+        home = pathlib.Path(tempfile.mkdtemp(prefix="home-"))
+        tree = trees.Trees(place, options)
+        all_of_them = contestants(options, home)
+        turns.take_turns(all_of_them, options.rounds, tree.make, tree.must_be_empty)
+        page.add(turns.table(all_of_them), heading=f"On {place.file_system}")
+    page.add("Zelvane's line includes its checks: no link followed, no mount entered, files in use "
+             "left alone,\nwhich takes one look at the open files of all processes at the start. "
+             "BleachBit's is that of\n`bleachbit --clean` with a cleaner of its own that names the "
+             "tree.")
+    page.write(options.build)
 
 
 main()

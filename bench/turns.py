@@ -1,4 +1,4 @@
-"""Times whole processes turn by turn, so that whatever else the machine does slows all alike."""
+"""Times contestants turn by turn, so that whatever else the machine does slows all alike."""
 
 import os
 import statistics
@@ -7,22 +7,23 @@ import time
 
 
 class Contestant:
-    """Something that is timed: its name, and what makes its command for a fresh piece of work."""
+    """Something that is timed, and what it must reach: pairs of a peer and the most of the peer's
+    time that it may take."""
 
-    def __init__(self, name, command):
+    def __init__(self, name, goals=()):
         self.name = name
-        self.command = command
+        self.goals = goals
         self.wall = []
         self.processor = []
 
+    def measure(self, work):
+        """Does the work once. Returns the seconds by the clock, and those of the processor."""
+        raise NotImplementedError
+
     def run(self, work):
-        before = os.times()
-        start = time.monotonic()
-        subprocess.run(self.command(work), check=True, stdin=subprocess.DEVNULL)
-        self.wall.append(time.monotonic() - start)
-        after = os.times()
-        self.processor.append(after.children_user + after.children_system
-                              - before.children_user - before.children_system)
+        wall, processor = self.measure(work)
+        self.wall.append(wall)
+        self.processor.append(processor)
 
     def median(self, times):
         return statistics.median(getattr(self, times))
@@ -30,28 +31,60 @@ class Contestant:
     def spread(self, times):
         return min(getattr(self, times)), max(getattr(self, times))
 
+    def ratio(self, peer, times="wall"):
+        return self.median(times) / peer.median(times)
 
-def take_turns(contestants, rounds, make_work, end_work):
+
+class Command(Contestant):
+    """A whole process, from its start to its end. `command` makes it for a piece of work."""
+
+    def __init__(self, name, command, goals=(), environment=None):
+        super().__init__(name, goals)
+        self._command = command
+        self._environment = environment
+
+    def measure(self, work):
+        before = os.times()
+        start = time.monotonic()
+        ended = subprocess.run(self._command(work), env=self._environment, text=True,
+                               stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                               stderr=subprocess.PIPE)
+        wall = time.monotonic() - start
+        after = os.times()
+        if ended.returncode != 0:
+            raise SystemExit(f"{self.name} ended with status {ended.returncode}:\n{ended.stderr}")
+        return wall, (after.children_user + after.children_system
+                      - before.children_user - before.children_system)
+
+
+def take_turns(contestants, rounds, make_work=lambda: None, end_work=lambda work: None):
     """Each contestant once a round, each on work of its own, which is made untimed. The first of a
     round changes, so that nobody always finds the machine as the same one left it."""
     for number in range(rounds):
         first = number % len(contestants)
         for contestant in contestants[first:] + contestants[:first]:
             work = make_work()
-            os.sync()
             contestant.run(work)
             end_work(work)
 
 
-def table(contestants, peer):
-    """Markdown: wall and processor time of each, and both as ratios to the peer's."""
-    lines = ["| | wall, s: median (least to most) | ratio | processor, s: median | ratio |",
-             "|---|---|---|---|---|"]
+def table(contestants):
+    """Markdown: wall and processor time of each, and both as ratios to those of the first."""
+    peer = contestants[0]
+    lines = ["| | wall, s: median (least to most) | ratio | processor, s: median | ratio | goal |",
+             "|---|---|---|---|---|---|"]
     for each in contestants:
         least, most = each.spread("wall")
         lines.append(
-            f"| {each.name} | {each.median('wall'):.2f} ({least:.2f} to {most:.2f}) "
-            f"| {each.median('wall') / peer.median('wall'):.2f} "
-            f"| {each.median('processor'):.2f} "
-            f"| {each.median('processor') / peer.median('processor'):.2f} |")
+            f"| {each.name} | {each.median('wall'):.3f} ({least:.3f} to {most:.3f}) "
+            f"| {each.ratio(peer):.2f} | {each.median('processor'):.3f} "
+            f"| {each.ratio(peer, 'processor'):.2f} | {'; '.join(goals(each))} |")
     return "\n".join(lines)
+
+
+def goals(contestant):
+    """What it had to reach by the clock, and whether it did."""
+    for peer, limit in contestant.goals:
+        ratio = contestant.ratio(peer)
+        verdict = "met" if ratio <= limit else "**not met**"
+        yield f"at most {limit} of {peer.name}: {ratio:.2f}, {verdict}"

@@ -13,6 +13,16 @@ target_compile_options(
   INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wshadow -Wnon-virtual-dtor
             -Woverloaded-virtual -Wold-style-cast -fstack-protector-strong)
 target_compile_definitions(zelvane_build_options INTERFACE _GLIBCXX_ASSERTIONS)
+# The wide functions of Windows, of a system from Windows 10 on. For every file, because a precompiled
+# header serves only those who are compiled like it.
+if(WIN32)
+  add_compile_definitions(UNICODE _UNICODE NOMINMAX WIN32_LEAN_AND_MEAN _WIN32_WINNT=0x0A00)
+endif()
+
+# Elsewhere the system brings what guards the stack; on Windows it is a library of the compiler's.
+if(MINGW)
+  target_link_options(zelvane_build_options INTERFACE -fstack-protector-strong)
+endif()
 
 # ccache must be told that a precompiled header, whose own time stamp changes, may still be the same.
 find_program(ZELVANE_CCACHE ccache)

@@ -39,7 +39,8 @@ function(zelvane_test name)
     return()
   endif()
 
-  add_executable(${name} ${arg_SOURCES})
+  add_executable(${name} ${arg_SOURCES}
+                 ${PROJECT_SOURCE_DIR}/tests/support/every_program/language.cpp)
   set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE OFF RUNTIME_OUTPUT_DIRECTORY
                                            ${PROJECT_BINARY_DIR}/tests)
   target_link_libraries(${name} PRIVATE zelvane_test_options zelvane_test_support ${arg_DEPENDS}

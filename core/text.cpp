@@ -1,12 +1,13 @@
 #include "core/text.h"
 
 #include <algorithm>
+#include <cstdint>
 
 namespace zelvane::core {
 
 namespace {
 
-std::string twoDigits(long number) {
+std::string twoDigits(std::int64_t number) {
   return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
 }
 

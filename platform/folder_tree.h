@@ -43,7 +43,8 @@ class OpenFolder {
 
   // Deletes a file or a link with force: a read-only file goes too, also from a folder of the
   // user's own that has no write permission. Throws when the file is in use, which is any file that
-  // a process of this user holds open, or when the desktop refuses. A file that is gone already
+  // a process of this user holds open, as far as the desktop lets one user see that, or when the
+  // desktop refuses. A file that is gone already
   // counts as deleted. Never deletes a folder.
   virtual void removeFile(const std::string& name) = 0;
 

@@ -28,10 +28,16 @@ display,check,bench python3       file:/usr/bin/python3              drives the 
 display       imagemagick         command:import                     takes screenshots
 display       procps              command:ps                         sees which programs run
 display       file                command:file                       says what a screenshot is
+bench,tidy    libxcb-damage0-dev  header:xcb/damage.h                sees when a window is painted
+bench         e2fsprogs           command:mkfs.ext4                  makes a file system to erase in
+bench         bleachbit           command:bleachbit                  a cleaner, as a peer
+bench         keepassxc           command:keepassxc                  a program with a window, as a peer
 check         googletest          header:gtest/gtest.h               the tests' framework, as sources
 check         libgtest-dev        header:gtest/gtest.h               its headers
 check         ccache              command:ccache                     compiles nothing twice
 check         git                 command:git                        says which files have changed
+abroad        locales             file:/usr/share/i18n/locales/tr_TR  how other languages write
+abroad        tzdata              file:/usr/share/zoneinfo/Australia/Lord_Howe  what time it is elsewhere
 asan,tidy     clang-14            command:clang++-14                 builds for the sanitizers and for clang-tidy
 asan          libclang-rt-14-dev  command:clang++-14                 the sanitizers themselves
 format        clang-format-14     command:clang-format-14            lays out the sources

@@ -6,7 +6,7 @@
 # ordinary user's runs are run as that user. Either way home, temporary and run-time folder lie in the
 # sandbox, and nothing of the caller's environment goes in.
 
-sandbox='' tester='' project='' place='' running=''
+sandbox='' tester='' project='' place='' running='' abroad=''
 
 # Afterwards $tester is who runs, and $project is where that user finds the project.
 openSandbox() {
@@ -32,6 +32,19 @@ offerBuild() {
       -exec cp --parents --target-directory "$project" {} + 2>/dev/null || true
     chmod -R go=rX "$project/build"
   fi
+}
+
+# From here until comeHome the sandbox lies elsewhere: another language, in which a comma parts
+# a number and "I" is no capital "i", clocks that differ by half hours, also between summer and winter,
+# no run-time folder, and folders whose names have blanks and letters that are no ASCII.
+goAbroad() {
+  abroad=yes
+  mkdir -p "$sandbox/locales"
+  localedef --force -f UTF-8 -i tr_TR "$sandbox/locales/tr_TR.UTF-8"
+}
+
+comeHome() {
+  abroad=''
 }
 
 closeSandbox() {
@@ -62,18 +75,24 @@ inSandbox() {
     owner=(-o "$tester" -g "$tester")
   fi
   place=$(mktemp -d "$sandbox/XXXX") # short, as the path of a socket has room for 107 letters
-  install -d -m 700 "${owner[@]}" "$place" "$place"/{home,tmp,run} \
-    "$place"/home/{.config,.cache,.local,.local/share,.local/state}
+  local home=$place/home temporary=$place/tmp
+  local -a world=(LANG=C.UTF-8 XDG_RUNTIME_DIR="$place/run")
+  if [[ -n $abroad ]]; then
+    home="$place/bizim ev ö"
+    temporary="$place/geçici ş"
+    world=(LANG=tr_TR.UTF-8 LOCPATH="$sandbox/locales" TZ=Australia/Lord_Howe ZELVANE_TEST_ABROAD=yes)
+  fi
+  install -d -m 700 "${owner[@]}" "$place" "$home" "$temporary" "$place/run" \
+    "$home"/{.config,.cache,.local,.local/share,.local/state}
   local -a environment=(
-    PATH=/usr/local/bin:/usr/bin:/bin:/usr/sbin:/sbin LANG=C.UTF-8
-    USER="$tester" LOGNAME="$tester" HOME="$place/home"
-    TMPDIR="$place/tmp" XDG_RUNTIME_DIR="$place/run"
-    XDG_CONFIG_HOME="$place/home/.config" XDG_CACHE_HOME="$place/home/.cache"
-    XDG_DATA_HOME="$place/home/.local/share" XDG_STATE_HOME="$place/home/.local/state"
+    PATH=/usr/local/bin:/usr/bin:/bin:/usr/sbin:/sbin "${world[@]}"
+    USER="$tester" LOGNAME="$tester" HOME="$home" TMPDIR="$temporary"
+    XDG_CONFIG_HOME="$home/.config" XDG_CACHE_HOME="$home/.cache"
+    XDG_DATA_HOME="$home/.local/share" XDG_STATE_HOME="$home/.local/state"
     PYTHONDONTWRITEBYTECODE=1 ZELVANE_SOURCE_DIR="$project"
   )
   # In the background, so that Ctrl-C reaches this shell at once; timeout makes it a group of its own.
-  (cd "$place/home" && exec timeout --kill-after=10 "$seconds" \
+  (cd "$home" && exec timeout --kill-after=10 "$seconds" \
     "${user[@]}" env -i "${environment[@]}" "$@") &
   running=$!
   wait "$running" 2>/dev/null || ended=$?

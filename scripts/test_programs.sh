@@ -1,10 +1,11 @@
 # shellcheck shell=bash
 # Runs test programs in the sandbox and hands what they showed to the tally. To be sourced.
 #
-# Two words in a test's name say when it runs. "Mount": it needs mounts of its own, so it runs in a user
+# Three words in a test's name say when it runs. "Mount": it needs mounts of its own, so it runs in a user
 # namespace, where it may mount. All others run outside: inside, a user overcomes the permissions of
-# files, as root does, and a test of permissions would prove nothing. "BigVolume": it takes minutes, so
-# it runs in the long check alone.
+# files, as root does, and a test of permissions would prove nothing. "OtherOwner": it gives files away,
+# so it runs as root where root runs the check, and skips itself elsewhere. "BigVolume": it takes minutes,
+# so it runs in the long check alone.
 
 checkFolder=build/check
 programTime=900 # seconds
@@ -19,6 +20,7 @@ runGTest() {
   local preset=$1 program=$2 filter=$3 suite=$2 ended=0 log
   shift 3
   [[ $preset == dev ]] || suite="$program ($preset)"
+  [[ -z $abroad ]] || suite="$suite (abroad)"
   log=$(newLog "$preset-$program")
   # The place is a new folder, and the program starts in its home.
   inSandbox "$programTime" "$@" "$project/build/$preset/tests/$program" --gtest_color=no \
@@ -44,12 +46,15 @@ runTests() {
   fi
 }
 
-# runTestsWithMounts PRESET PROGRAM: the same for a program some of whose tests mount.
+# runTestsWithMounts PRESET PROGRAM: the same for a program some of whose tests mount, or give away.
 runTestsWithMounts() {
   local name
   local -a mounting
   isBuilt "$1" "$2" || return 0
-  runGTest "$1" "$2" '-*Mount*:*BigVolume*'
+  runGTest "$1" "$2" '-*Mount*:*OtherOwner*:*BigVolume*'
+  if [[ -n $(selectedTests "$1" "$2" '*OtherOwner*') ]]; then
+    tester=$(id -un) runGTest "$1" "$2" '*OtherOwner*'
+  fi
   mapfile -t mounting < <(selectedTests "$1" "$2" '*Mount*-*BigVolume*')
   if ((${#mounting[@]} == 0)); then
     return
@@ -75,7 +80,7 @@ runBigVolumes() {
 }
 
 mountsAllowed() {
-  inSandbox 60 unshare --user --map-root-user --mount mount -t tmpfs none ../tmp >/dev/null 2>&1
+  inSandbox 60 unshare --user --map-root-user --mount sh -c 'mount -t tmpfs none "$TMPDIR"' >/dev/null 2>&1
 }
 
 # runScript FILE [NAME=VALUE...]: a test that prints "ok - ...", "not ok - ..." or "skip - ...: reason"
@@ -84,6 +89,7 @@ runScript() {
   local name log ended=0
   name=$(basename "$1" .py)
   log=$(newLog "$name")
+  [[ -z $abroad ]] || name="$name (abroad)"
   inSandbox "$programTime" env "${@:2}" "$project/$1" >"$log" 2>&1 || ended=$?
   tally lines "$name" "$log" "$ended"
 }

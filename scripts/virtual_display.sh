@@ -6,8 +6,9 @@ set -euo pipefail
 if [[ ${1-} != --inside ]]; then
   # Without "-noreset" the display starts over when its last program leaves, and takes along whoever
   # comes just then.
-  exec xvfb-run -a -s "-screen 0 1280x1024x24 -nolisten tcp -noreset" \
-    dbus-run-session -- "$0" --inside "$@"
+  # Its own temporary files have to lie in a folder whose name has no blanks.
+  exec env TMPDIR=/tmp xvfb-run -a -s "-screen 0 1280x1024x24 -nolisten tcp -noreset" \
+    env TMPDIR="${TMPDIR:-/tmp}" dbus-run-session -- "$0" --inside "$@"
 fi
 shift
 

@@ -136,8 +136,10 @@ std::unique_ptr<GuardedFolder> GuardedFolder::openSubfolder(const std::string& n
 
 Descriptor GuardedFolder::openChecked(const std::string& name) {
   if (!walk_->options.askKernel) return openComparingMounts(name);
-  Descriptor subfolder(openBeneath(descriptor(), singleName(name)));
-  if (subfolder.isOpen()) return subfolder;
+  do {
+    Descriptor subfolder(openBeneath(descriptor(), singleName(name)));
+    if (subfolder.isOpen()) return subfolder;
+  } while (errno == EACCES && liftPermissions());
   // An old kernel does not know the call, a container may forbid it.
   if (errno != ENOSYS && errno != EPERM) throwForFolder();
   walk_->options.askKernel = false;
@@ -145,7 +147,10 @@ Descriptor GuardedFolder::openChecked(const std::string& name) {
 }
 
 Descriptor GuardedFolder::openComparingMounts(const std::string& name) {
-  Descriptor subfolder(openat(descriptor(), singleName(name), kOpenFolder));
+  Descriptor subfolder;
+  do {
+    subfolder = Descriptor(openat(descriptor(), singleName(name), kOpenFolder));
+  } while (!subfolder.isOpen() && errno == EACCES && liftPermissions());
   if (!subfolder.isOpen()) throwForFolder();
   if (!walk_->mount) walk_->mount = mountOf(descriptor());
   if (mountOf(subfolder.get()) != *walk_->mount) throw Error(ErrorNumber::accessError);

@@ -14,17 +14,20 @@ namespace zelvane::platform {
 namespace {
 
 constexpr mode_t kPrivate = S_IRUSR | S_IWUSR;
+constexpr std::string_view kHiddenPrefix = ".zelvane-";
+constexpr std::string_view kDigits = "0123456789abcdef";
+constexpr std::size_t kRandomBytes = 16;
 
 // A name that nobody can guess and occupy beforehand.
 std::string randomHiddenName() {
-  unsigned char random[16];
+  unsigned char random[kRandomBytes];
   if (getrandom(random, sizeof random, 0) != static_cast<ssize_t>(sizeof random)) {
     throwSystemError();
   }
-  std::string name(LinuxPendingFile::kHiddenPrefix);
+  std::string name(kHiddenPrefix);
   for (const unsigned char byte : random) {
-    name += "0123456789abcdef"[byte >> 4U];
-    name += "0123456789abcdef"[byte & 15U];
+    name += kDigits[byte >> 4U];
+    name += kDigits[byte & 15U];
   }
   return name;
 }
@@ -42,6 +45,13 @@ bool hasNoUnnamedFiles(int systemNumber) {
 }
 
 }  // namespace
+
+bool LinuxPendingFile::isHiddenName(std::string_view name) {
+  if (!name.starts_with(kHiddenPrefix)) return false;
+  name.remove_prefix(kHiddenPrefix.size());
+  return name.size() == 2 * kRandomBytes &&
+         name.find_first_not_of(kDigits) == std::string_view::npos;
+}
 
 LinuxPendingFile::LinuxPendingFile(Descriptor folder, std::string name, Kind kind)
     : folder_(std::move(folder)), name_(std::move(name)) {

@@ -13,8 +13,8 @@ class LinuxPendingFile : public PendingFile {
  public:
   enum class Kind { unnamed, hidden };
 
-  // With this begins the name that a file has while it waits, and after a kill just then for good.
-  static constexpr std::string_view kHiddenPrefix = ".zelvane-";
+  // Whether a file waits under such a name; after a kill just then it has it for good.
+  static bool isHiddenName(std::string_view name);
 
   // In the open folder `folder`, to be published there as `name`. An unnamed file is what one
   // wants; a hidden one is made instead where the file system has no unnamed ones, or when asked

@@ -52,11 +52,21 @@ bool renameWithoutReplacing(const Descriptor& folder, const std::string& from,
 void sweepAwayWhatKilledWritersLeft(const Descriptor& folder) {
   FolderReader().read(folder.get(), [&](std::span<const Entry> piece) {
     for (const Entry& entry : piece) {
-      if (entry.name.starts_with(LinuxPendingFile::kHiddenPrefix)) {
+      if (LinuxPendingFile::isHiddenName(entry.name)) {
         unlinkat(folder.get(), entry.name.data(), 0);
       }
     }
   });
+}
+
+// Does it; a failure's text begins with what it stopped.
+template <typename Deed>
+auto naming(const std::string& what, Deed deed) {
+  try {
+    return deed();
+  } catch (const Error& error) {
+    throw Error(error.number(), what + ": " + error.text());
+  }
 }
 
 }  // namespace
@@ -112,16 +122,19 @@ std::optional<std::string> PrivateFile::read() const { return whole(content()); 
 
 void PrivateFile::update(const Change& change) {
   Descriptor folder = makePrivateFolder(folder_);
-  const FolderLock lock(folder);
+  const std::string refused = "\"" + path() + "\" cannot be written";
+  const FolderLock lock = naming(refused, [&] { return FolderLock(folder); });
   const auto text = change(whole(contentIn(folder)));
   if (!text) return;
   if (text->size() > kLimit) {
     throw Error(ErrorNumber::accessError, "\"" + path() + "\" would be larger than 16 MiB.");
   }
-  sweepAwayWhatKilledWritersLeft(folder);
-  LinuxPendingFile file(std::move(folder), name_);
-  file.write(*text);
-  file.publish();
+  naming(refused, [&] {
+    sweepAwayWhatKilledWritersLeft(folder);
+    LinuxPendingFile file(std::move(folder), name_);
+    file.write(*text);
+    file.publish();
+  });
 }
 
 std::optional<std::string> PrivateFile::setAsideUnless(
@@ -131,10 +144,12 @@ std::optional<std::string> PrivateFile::setAsideUnless(
   };
   if (isFine(content())) return std::nullopt;
   const Descriptor folder = openPrivateFolder(folder_);
-  const FolderLock lock(folder);
+  const std::string refused =
+      "\"" + path() + "\" cannot be understood, and not be given another name";
+  const FolderLock lock = naming(refused, [&] { return FolderLock(folder); });
   // Asked again, because another process may have set it aside meanwhile.
   if (isFine(contentIn(folder))) return std::nullopt;
-  return folder_ + "/" + renameToFreeName(folder);
+  return folder_ + "/" + naming(refused, [&] { return renameToFreeName(folder); });
 }
 
 std::string PrivateFile::renameToFreeName(const Descriptor& folder) const {

@@ -3,12 +3,16 @@
 #include <QByteArray>
 #include <QXmlStreamReader>
 #include <optional>
+#include <span>
 
 #include <fcntl.h>
+#include <unistd.h>
 
 #include "platform/error.h"
+#include "platform/linux/descriptor.h"
 #include "platform/linux/folder_entries.h"
 #include "platform/linux/linux_files.h"
+#include "platform/linux/linux_pending_file.h"
 #include "platform/linux/open_files_snapshot.h"
 
 namespace zelvane::platform {
@@ -25,11 +29,27 @@ constexpr const char* kEmptyList =
 
 bool isThere(const std::string& path) { return factsOf(AT_FDCWD, path).has_value(); }
 
-void refuseLinksAndFilesInUse(const std::string& path) {
+void refuseLinksAndFilesInUse(const std::string& path, const OpenFilesSnapshot& inUse) {
   const std::optional<EntryFacts> facts = factsOf(AT_FDCWD, path);
   if (!facts) throw Error(ErrorNumber::fileNotFound);
   if (facts->kind != EntryKind::file) throw Error(ErrorNumber::accessError);
-  if (OpenFilesSnapshot().contains(facts->identity)) throw Error(ErrorNumber::permissionDenied);
+  if (inUse.contains(facts->identity)) throw Error(ErrorNumber::permissionDenied);
+}
+
+// A kill may have left a new list under the name it had while it waited. Who still writes one has
+// it open.
+void sweepAwayUnfinishedLists(const std::string& folder, const OpenFilesSnapshot& inUse) {
+  const Descriptor opened(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!opened.isOpen()) return;
+  FolderReader().read(opened.get(), [&](std::span<const Entry> piece) {
+    for (const Entry& entry : piece) {
+      if (!LinuxPendingFile::isHiddenName(entry.name)) continue;
+      const auto facts = factsOf(opened.get(), std::string(entry.name));
+      const bool isLeft =
+          facts && facts->kind == EntryKind::file && !inUse.contains(facts->identity);
+      if (isLeft) unlinkat(opened.get(), entry.name.data(), 0);
+    }
+  });
 }
 
 bool isKnownToBeEmpty(const std::string& list) {
@@ -55,7 +75,9 @@ bool RecentList::holdsAnything() const {
 }
 
 void RecentList::erase() {
-  refuseLinksAndFilesInUse(path_);
+  const OpenFilesSnapshot inUse;
+  refuseLinksAndFilesInUse(path_, inUse);
+  sweepAwayUnfinishedLists(path_.substr(0, path_.rfind('/') + 1), inUse);
   const std::unique_ptr<PendingFile> list = LinuxFiles().createBeside(path_);
   list->write(kEmptyList);
   list->publish();
@@ -64,7 +86,7 @@ void RecentList::erase() {
 bool RecentListCopy::holdsAnything() const { return isThere(path_); }
 
 void RecentListCopy::erase() {
-  refuseLinksAndFilesInUse(path_);
+  refuseLinksAndFilesInUse(path_, OpenFilesSnapshot());
   LinuxFiles().remove(path_);
 }
 

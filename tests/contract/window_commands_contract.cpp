@@ -24,7 +24,7 @@ TEST_P(WindowCommandsContract, TheNamedControlHasTheFocus) {
 TEST_P(WindowCommandsContract, TheNamedControlIsPaintedAtOnce) {
   bed->window().bringForward();
   ASSERT_TRUE(bed->isForward());
-  const long before = bed->paintings("txtFirst");
+  const std::ptrdiff_t before = bed->paintings("txtFirst");
 
   bed->window().repaint("txtFirst");
 

@@ -1,6 +1,7 @@
 // What every window promises to do at the program's word.
 #pragma once
 
+#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -22,7 +23,7 @@ class WindowCommandsBed {
   virtual std::string focused() const = 0;
 
   // How often the control was painted so far.
-  virtual long paintings(const std::string& controlName) const = 0;
+  virtual std::ptrdiff_t paintings(const std::string& controlName) const = 0;
 };
 
 using MakeWindowCommandsBed = std::unique_ptr<WindowCommandsBed> (*)();

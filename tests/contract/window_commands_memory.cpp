@@ -20,12 +20,12 @@ class MemoryWindowBed : public WindowCommandsBed {
     return last == calls.rend() ? std::string() : last->substr(kFocus.size());
   }
 
-  long paintings(const std::string& controlName) const override {
+  std::ptrdiff_t paintings(const std::string& controlName) const override {
     return timesTold("repaint " + controlName);
   }
 
  private:
-  long timesTold(const std::string& call) const {
+  std::ptrdiff_t timesTold(const std::string& call) const {
     return std::ranges::count(window_.calls(), call);
   }
 

@@ -13,7 +13,7 @@ class PaintedLine : public QLineEdit {
  public:
   PaintedLine(const char* name, QWidget& parent) : QLineEdit(&parent) { setObjectName(name); }
 
-  long paintings = 0;
+  std::ptrdiff_t paintings = 0;
 
  protected:
   void paintEvent(QPaintEvent* event) override {
@@ -43,7 +43,7 @@ class QtWindowBed : public WindowCommandsBed {
     return focused == nullptr ? std::string() : focused->objectName().toStdString();
   }
 
-  long paintings(const std::string& controlName) const override {
+  std::ptrdiff_t paintings(const std::string& controlName) const override {
     return (controlName == "txtFirst" ? first_ : second_).paintings;
   }
 

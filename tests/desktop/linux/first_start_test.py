@@ -23,6 +23,7 @@ OWN_FILES = {
     ".config/zelvane/.lock", ".config/zelvane/registry.json", ".config/zelvane/settings.json",
     ".config/zelvane/win.ini", ".local/share/zelvane/ding.wav",
     ".local/share/zelvane/wavpath.txt",
+    ".cache/zelvane/instance.lock",  # where there is no run-time folder for it
 }
 
 

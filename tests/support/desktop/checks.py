@@ -1,6 +1,7 @@
 """Tests that say in lines what held: "ok - ...", "not ok - ...", "skip - ...: reason"."""
 
 import os
+import pathlib
 import sys
 import traceback
 
@@ -20,16 +21,17 @@ class Bed:
         self.home = home
         self.path = path
 
-    def start(self, home=None, arguments=()):
-        return Program(self.path, self.desktop, home or self.home, arguments)
+    def start(self, home=None, arguments=(), environment=None):
+        return Program(self.path, self.desktop, home or self.home, arguments, environment)
 
 
-def run(*tests):
+def run(*tests, folder=None):
     """Runs the tests, each a function that is given a bed and whose name is a sentence that can be
-    false. Ends the script: status 0 if nothing failed."""
+    false. Their homes are made in `folder`, or where temporary files go. Ends the script: status 0
+    if nothing failed."""
     path = program_path()
     try:
-        with VirtualDesktop() as desktop:
+        with VirtualDesktop(folder=folder) as desktop:
             failures = sum(not _holds(test, desktop, path) for test in tests)
     except Missing as reason:
         for test in tests:
@@ -43,7 +45,7 @@ def program_path():
     path = sys.argv[1] if len(sys.argv) > 1 else os.environ.get("ZELVANE_PROGRAM", "")
     if not os.access(path, os.X_OK):
         sys.exit(f"No program \"{path}\". Name it as the argument or in ZELVANE_PROGRAM.")
-    return os.path.abspath(path)
+    return pathlib.Path(path).absolute()
 
 
 def _holds(test, desktop, path):

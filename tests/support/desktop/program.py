@@ -11,12 +11,13 @@ from desktop.window import TITLE, Window
 class Program:
     """One started program. Ends with the `with` block at the latest."""
 
-    def __init__(self, path, desktop, home, arguments=()):
+    def __init__(self, path, desktop, home, arguments=(), environment=None):
         self._desktop = desktop
         self._home = home
         self._log = open(home.runtime / "program.log", "ab")
         self._process = processes.start(
-            [str(path), *arguments], env=desktop.environment(home), cwd=home.home,
+            [str(path), *arguments], env={**desktop.environment(home), **(environment or {})},
+            cwd=home.home,
             stdin=subprocess.DEVNULL, stdout=self._log, stderr=self._log)
 
     def __enter__(self):
@@ -49,6 +50,10 @@ class Program:
             boxes = [part for part in self._application().parts() if part.role in DIALOG]
             return Message(boxes[0]) if boxes else None
         return wait_for(shown, "the program shows a message")
+
+    def tell_to_quit(self):
+        """As the end of the session does to a program that has not gone by itself."""
+        self._process.terminate()
 
     def end_status(self):
         """Waits for its end and returns its exit status, negative for a signal."""

@@ -5,18 +5,23 @@ import pathlib
 import pwd
 import stat
 
+# Set for a run in another part of the world: with names, a language and a clock of that place, and
+# without a run-time folder.
+ABROAD = "ZELVANE_TEST_ABROAD" in os.environ
+OF_THE_PLACE = ("LANG", "LOCPATH", "TZ")
+
 
 class ThrowAwayHome:
     """Made below `place`, which the caller removes."""
 
     def __init__(self, place):
         place = pathlib.Path(place).resolve()
-        self.home = place / "home"
+        self.home = place / ("bizim ev ö" if ABROAD else "home")
         self.config = self.home / ".config"
         self.data = self.home / ".local" / "share"
         self.cache = self.home / ".cache"
         self.state = self.home / ".local" / "state"
-        self.temporary = place / "tmp"
+        self.temporary = place / ("geçici ş" if ABROAD else "tmp")
         self.runtime = place / "run"
         for folder in self._folders():
             folder.mkdir(mode=0o700, parents=True, exist_ok=True)
@@ -36,17 +41,17 @@ class ThrowAwayHome:
 
     def environment(self):
         """All variables of a program that lives here. Nothing of the caller's gets in but the path
-        to programs and the sanitizers' wishes."""
+        to programs, what is usual in this part of the world, and the sanitizers' wishes."""
         kept = {name: value for name, value in os.environ.items()
-                if name == "PATH" or name.endswith("SAN_OPTIONS")}
+                if name == "PATH" or name in OF_THE_PLACE or name.endswith("SAN_OPTIONS")}
         user = pwd.getpwuid(os.getuid()).pw_name
         return {
-            "PATH": "/usr/local/bin:/usr/bin:/bin", **kept,
-            "LANG": "C.UTF-8", "USER": user, "LOGNAME": user,
+            "PATH": "/usr/local/bin:/usr/bin:/bin", "LANG": "C.UTF-8", **kept,
+            "USER": user, "LOGNAME": user,
             "HOME": str(self.home), "TMPDIR": str(self.temporary),
             "XDG_CONFIG_HOME": str(self.config), "XDG_DATA_HOME": str(self.data),
             "XDG_CACHE_HOME": str(self.cache), "XDG_STATE_HOME": str(self.state),
-            "XDG_RUNTIME_DIR": str(self.runtime),
+            **({} if ABROAD else {"XDG_RUNTIME_DIR": str(self.runtime)}),
         }
 
     def name_documents(self):

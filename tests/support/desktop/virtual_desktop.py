@@ -11,6 +11,7 @@ import struct
 import subprocess
 import sys
 import tempfile
+import urllib.parse
 
 from desktop import private_mounts, processes
 from desktop.throw_away_home import ThrowAwayHome
@@ -42,10 +43,14 @@ def missing():
 
 class VirtualDesktop:
     """One a process, because a process has one environment and one accessibility bus. Everything
-    that is started here finds its files below `place`, a folder that goes with the desktop."""
+    that is started here finds its files below `place`, a folder that goes with the desktop; it is
+    made in `folder`, or where temporary files go."""
 
-    def __init__(self, keep=False):
+    def __init__(self, keep=False, folder=None, window_manager=True, accessibility=True):
         self._keep = keep
+        self._folder = folder
+        self._wants_window_manager = window_manager
+        self._wants_accessibility = accessibility
         self._rest = contextlib.ExitStack()
         self.place = None
         self.has_private_mounts = False
@@ -61,7 +66,8 @@ class VirtualDesktop:
         processes.adopt_orphans()
         with contextlib.ExitStack() as rest:
             self._enter_private_mounts()
-            self.place = pathlib.Path(tempfile.mkdtemp(prefix="zelvane-")).resolve()
+            self.place = pathlib.Path(tempfile.mkdtemp(prefix="zelvane-",
+                                                       dir=self._folder)).resolve()
             rest.callback(self._remove_place)
             rest.callback(processes.end_all)
             self._start(rest.enter_context(open(self.place / "desktop.log", "wb")))
@@ -104,7 +110,9 @@ class VirtualDesktop:
         authority = self.place / "authority"
         _write_authority(authority)
         self._environment = {"XAUTHORITY": str(authority), "QT_QPA_PLATFORM": "xcb",
-                             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1", "NO_AT_BRIDGE": "1"}
+                             "NO_AT_BRIDGE": "1"}
+        if self._wants_accessibility:
+            self._environment["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         # Without "-noreset" it starts over when its last client leaves, and takes along whoever
         # comes just then.
         number = self._answer_of(
@@ -113,12 +121,13 @@ class VirtualDesktop:
         self._environment["DISPLAY"] = f":{number}"
         self._environment["DBUS_SESSION_BUS_ADDRESS"] = self._answer_of(
             lambda out: ["dbus-daemon", "--session", "--nofork", f"--print-address={out}",
-                         f"--address=unix:path={home.runtime}/bus"], home, log)
+                         f"--address=unix:path={urllib.parse.quote(str(home.runtime))}/bus"], home, log)
         # From here on this process lives on the desktop too, not in the caller's home.
         os.environ.clear()
         os.environ.update(self.environment(home))
-        processes.start(["openbox"], stdin=subprocess.DEVNULL, stdout=log, stderr=log)
-        wait_until(_has_window_manager, "the window manager is there")
+        if self._wants_window_manager:
+            processes.start(["openbox"], stdin=subprocess.DEVNULL, stdout=log, stderr=log)
+            wait_until(_has_window_manager, "the window manager is there")
 
     def _answer_of(self, command, home, log):
         """Starts a server and returns the line that it writes once it is ready."""

@@ -54,6 +54,11 @@ class Window:
     def press(self, caption):
         self.find(BUTTON, caption).press()
 
+    def press_at_once(self, *captions):
+        """One after the other, without asking the window for anything between them."""
+        for button in [self.find(BUTTON, caption) for caption in captions]:
+            button.press()
+
     def is_ticked(self, caption):
         return self.find(CHECK_BOX, caption).is_ticked
 
@@ -102,13 +107,20 @@ class Window:
         return wait_for(lambda: next((box for box in self.all(TEXT) if box.is_editable), None),
                         "the box for the home page is showing")
 
-    def clean(self):
+    def clean(self, seconds=PATIENCE):
         """Presses the big button, waits for the end of the run, and returns the log's text. Once in
         a program's life: nothing tells the end of a second run from that of the first."""
+        self.begin_to_clean()
+        return self.end_of_run(seconds)
+
+    def begin_to_clean(self):
         self._refuse_to_empty_real_trash()
         self.turn_to("Main")
         self.press(CLEAN)
-        wait_for(lambda: self.log.text().endswith("\nDone"), "the log ends with \"Done\"")
+
+    def end_of_run(self, seconds=PATIENCE):
+        """Waits for it and returns the log's text."""
+        wait_for(lambda: self.log.text().endswith("\nDone"), "the log ends with \"Done\"", seconds)
         wait_for(lambda: self.says("Ready"), "the status line says \"Ready\"")
         return self.log.text()
 
