@@ -83,6 +83,7 @@ Visit visitWith(const UsedHome& home, bool cleaning, const std::function<void()>
   afterTheStart();
   program.window.cleanerPage.chkSettings[kOption].setValue(0);
   program.clickOption(kOption);
+  program.window.cleanerPage.chkWebAddress.click();  // which goes into the hive
   if (cleaning) program.clean();
   seen.account = program.account();
   program.window.mainPage.chkStartup.setValue(1);
