@@ -7,7 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/linux/environment.h"
-#include "tests/contract/child_process_linux.h"
+#include "tests/support/linux/child_process.h"
 
 namespace zelvane::test {
 namespace {

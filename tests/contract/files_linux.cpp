@@ -16,8 +16,8 @@
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_pending_file.h"
 #include "platform/linux/system_error.h"
-#include "tests/contract/child_process_linux.h"
 #include "tests/contract/files_contract.h"
+#include "tests/support/linux/child_process.h"
 #include "tests/support/throw_away_folder.h"
 
 namespace zelvane::test {

@@ -6,7 +6,7 @@
 #include "platform/linux/descriptor.h"
 #include "platform/linux/linux_folder_tree.h"
 #include "tests/contract/folder_tree_contract.h"
-#include "tests/contract/private_mounts_linux.h"
+#include "tests/support/linux/private_mounts.h"
 #include "tests/support/throw_away_folder.h"
 
 namespace zelvane::test {

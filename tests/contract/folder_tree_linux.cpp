@@ -11,8 +11,8 @@
 #include "platform/error.h"
 #include "platform/linux/descriptor.h"
 #include "platform/memory/memory_event_pump.h"
-#include "tests/contract/child_process_linux.h"
 #include "tests/contract/folder_tree_bed_linux.h"
+#include "tests/support/linux/child_process.h"
 #include "tests/support/listing.h"
 
 namespace zelvane::test {

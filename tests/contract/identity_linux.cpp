@@ -1,8 +1,8 @@
 #include <filesystem>
 
 #include "platform/linux/linux_identity.h"
-#include "tests/contract/child_process_linux.h"
 #include "tests/contract/identity_contract.h"
+#include "tests/support/linux/child_process.h"
 #include "tests/support/throw_away_environment.h"
 
 namespace zelvane::test {

@@ -13,7 +13,7 @@
 #include "platform/linux/json_text.h"
 #include "platform/linux/private_file.h"
 #include "platform/linux/private_folder.h"
-#include "tests/contract/child_process_linux.h"
+#include "tests/support/linux/child_process.h"
 #include "tests/support/throw_away_folder.h"
 
 namespace zelvane::test {

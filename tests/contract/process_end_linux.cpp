@@ -5,8 +5,8 @@
 #include <unistd.h>
 
 #include "platform/linux/linux_process_end.h"
-#include "tests/contract/child_process_linux.h"
 #include "tests/contract/process_end_contract.h"
+#include "tests/support/linux/child_process.h"
 #include "tests/support/throw_away_folder.h"
 
 namespace zelvane::test {

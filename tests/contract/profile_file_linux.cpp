@@ -2,8 +2,8 @@
 #include <optional>
 
 #include "platform/linux/linux_profile_file.h"
-#include "tests/contract/child_process_linux.h"
 #include "tests/contract/profile_file_contract.h"
+#include "tests/support/linux/child_process.h"
 #include "tests/support/throw_away_environment.h"
 
 namespace zelvane::test {

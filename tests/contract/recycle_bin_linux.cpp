@@ -8,8 +8,8 @@
 #include "platform/linux/linux_recycle_bin.h"
 #include "platform/linux/mounted_volumes.h"
 #include "platform/linux/trash_places.h"
-#include "tests/contract/private_mounts_linux.h"
 #include "tests/contract/recycle_bin_contract.h"
+#include "tests/support/linux/private_mounts.h"
 #include "tests/support/no_events.h"
 #include "tests/support/throw_away_environment.h"
 #include "tests/support/throw_away_folder.h"
@@ -42,7 +42,8 @@ class LinuxRecycleBinBed : public RecycleBinBed {
   LinuxRecycleBinBed() {
     fs::create_directories(folder / "home/.local/share");
     fs::create_directories(folder / "volume");
-    folder.write("mounts", "21 1 8:1 / " + asInTable(folder / "volume") + " rw - ext4 /dev/sdb1 rw\n");
+    folder.write("mounts",
+                 "21 1 8:1 / " + asInTable(folder / "volume") + " rw - ext4 /dev/sdb1 rw\n");
   }
 
   platform::RecycleBin& bin() override { return bin_; }

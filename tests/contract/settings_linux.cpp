@@ -10,8 +10,8 @@
 #include "platform/error.h"
 #include "platform/linux/linux_settings.h"
 #include "platform/linux/private_file.h"
-#include "tests/contract/child_process_linux.h"
 #include "tests/contract/settings_contract.h"
+#include "tests/support/linux/child_process.h"
 #include "tests/support/throw_away_environment.h"
 
 namespace zelvane::test {

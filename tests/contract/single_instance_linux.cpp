@@ -8,8 +8,8 @@
 #include <unistd.h>
 
 #include "platform/linux/linux_single_instance.h"
-#include "tests/contract/child_process_linux.h"
 #include "tests/contract/single_instance_contract.h"
+#include "tests/support/linux/child_process.h"
 #include "tests/support/throw_away_environment.h"
 
 namespace zelvane::test {

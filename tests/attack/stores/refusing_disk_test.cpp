@@ -10,7 +10,7 @@
 
 #include "tests/attack/stores/plain_rights.h"
 #include "tests/attack/stores/used_home.h"
-#include "tests/contract/private_mounts_linux.h"
+#include "tests/support/linux/private_mounts.h"
 
 namespace zelvane::test {
 namespace {

@@ -10,8 +10,8 @@
 #include <vector>
 
 #include "platform/linux/descriptor.h"
-#include "tests/contract/child_process_linux.h"
-#include "tests/contract/private_mounts_linux.h"
+#include "tests/support/linux/child_process.h"
+#include "tests/support/linux/private_mounts.h"
 
 namespace zelvane::test {
 

@@ -1,4 +1,4 @@
-#include "tests/contract/private_mounts_linux.h"
+#include "tests/support/linux/private_mounts.h"
 
 #include <cerrno>
 #include <filesystem>

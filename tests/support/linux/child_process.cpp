@@ -1,4 +1,4 @@
-#include "tests/contract/child_process_linux.h"
+#include "tests/support/linux/child_process.h"
 
 #include <cerrno>
 #include <csignal>
