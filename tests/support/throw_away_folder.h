@@ -7,6 +7,7 @@
 
 namespace zelvane::test {
 
+// Texts are UTF-8.
 class ThrowAwayFolder {
  public:
   ThrowAwayFolder();
@@ -16,8 +17,8 @@ class ThrowAwayFolder {
 
   const std::filesystem::path& path() const { return path_; }
 
-  // The path of `name` below it.
-  std::string operator/(std::string_view name) const { return (path_ / name).string(); }
+  // The path of `name` below it, with the desktop's separators.
+  std::string operator/(std::string_view name) const;
 
   // Writes a file below it, with the folders above it.
   std::string write(std::string_view name, std::string_view content = "content") const;

@@ -1,6 +1,6 @@
-#include <system_error>
-
 #include "tests/support/remove_tree.h"
+
+#include <system_error>
 
 namespace zelvane::test {
 

@@ -17,8 +17,7 @@ int Note::heightForWidth(int width) const {
     measured_ = text();
   }
   const auto known = heights_.constFind(width);
-  return known != heights_.cend() ? *known
-                                  : *heights_.insert(width, QLabel::heightForWidth(width));
+  return known != heights_.cend() ? *known : *heights_.insert(width, QLabel::heightForWidth(width));
 }
 
 void Note::changeEvent(QEvent* event) {
@@ -34,9 +33,9 @@ void Note::dim() {
   const QColor text = colours.color(QPalette::Active, QPalette::WindowText);
   const QColor background = colours.color(QPalette::Active, QPalette::Window);
   const auto mix = [](float one, float other) { return one * 0.68F + other * 0.32F; };
-  const QColor dim = QColor::fromRgbF(mix(text.redF(), background.redF()),
-                                      mix(text.greenF(), background.greenF()),
-                                      mix(text.blueF(), background.blueF()));
+  const QColor dim =
+      QColor::fromRgbF(mix(text.redF(), background.redF()), mix(text.greenF(), background.greenF()),
+                       mix(text.blueF(), background.blueF()));
   QPalette dimmed;
   dimmed.setColor(QPalette::WindowText, dim);
   dimmed.setColor(QPalette::Text, dim);  // with which labels write on a card
