@@ -13,7 +13,6 @@ from desktop import many_files, settings
 from desktop.memory import MemoryWatch
 from desktop.pulse import Pulse
 from desktop.removals import Removals
-from desktop.waiting import wait_until
 
 MILLION = 1_000_000
 LONGEST_GAP = 0.100        # seconds
@@ -118,7 +117,6 @@ def the_close_box_minimises_in_the_middle_of_a_run_which_goes_on_to_its_end(bed)
     with in_the_middle_of_a_run(bed) as (program, window, removals):
         window.close()
 
-        wait_until(lambda: not window.is_on_screen, "the window leaves the screen")
         assert os.listdir(bed.home.temporary)
         removals.wait_for(1000, LONG_PATIENCE)
         assert program.is_running

@@ -1,16 +1,18 @@
 """The program's window, used as its user would use it."""
 
 import subprocess
+import time
 
 from desktop import settings
 from desktop.accessible import AREA, BUTTON, CHECK_BOX, LABEL, TAB, TEXT, wait_for
-from desktop.waiting import PATIENCE
+from desktop.waiting import PATIENCE, wait_until
 
 TITLE = "Zelvane v1.0"
 PAGES = ("Main", "Clean Internet", "Clean Computer", "Popup Killer", "File Security", "Schedule")
 CLEANING_PAGES = ("Clean Internet", "Clean Computer")
 RECYCLE_BIN = ("Settings", "Index5")  # where its tick is stored
 CLEAN = "Clean Computer and Internet"
+PRESSED_AGAIN = 2  # seconds, after which a key counts as unheard
 
 
 class Window:
@@ -131,9 +133,18 @@ class Window:
         return next((part for part in parts if part.role != AREA), parts[-1] if parts else None)
 
     def close(self):
-        """Uses the close box, by its key."""
+        """Uses the close box, by its key, and waits until the window has left the screen. A window
+        manager that has just started does not listen to its keys yet; so it is pressed again."""
         self.come_forward()
-        self._desktop.key("alt+F4")
+        pressed = float("-inf")
+
+        def gone():
+            nonlocal pressed
+            if self.is_on_screen and time.monotonic() - pressed > PRESSED_AGAIN:
+                self._desktop.key("alt+F4")
+                pressed = time.monotonic()
+            return not self.is_on_screen
+        wait_until(gone, "the window leaves the screen")
 
     def come_forward(self):
         """Brings the window to the front, as a task bar does."""
