@@ -43,7 +43,7 @@ def contestants(options, home):
     return [
         peer,
         turns.Command("Zelvane, through its folder tree",
-                      lambda root: [program, "port", str(root)], goals=[(peer, 1.0)]),
+                      lambda root: [program, "port", str(root)], goals=[(peer, 1.1)]),
         turns.Command("`std::filesystem::remove_all`",
                       lambda root: [program, "remove_all", str(root)]),
         BleachBit(home),

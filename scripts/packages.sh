@@ -36,6 +36,11 @@ check         googletest          header:gtest/gtest.h               the tests' 
 check         libgtest-dev        header:gtest/gtest.h               its headers
 check         ccache              command:ccache                     compiles nothing twice
 check         git                 command:git                        says which files have changed
+windows       g++-mingw-w64-x86-64-posix  command:x86_64-w64-mingw32-g++-posix  compiles for Windows
+windows       mingw-w64-x86-64-dev        file:/usr/x86_64-w64-mingw32/include/windows.h  its headers and libraries
+windows       wine                command:wine                       runs Windows' programs
+windows       wine64              file:/usr/lib/wine/wine64          the same, those of 64 bits
+windows       fonts-wine          file:/usr/share/wine/fonts/tahoma.ttf  letters as wide as Windows' own
 abroad        locales             file:/usr/share/i18n/locales/tr_TR  how other languages write
 abroad        tzdata              file:/usr/share/zoneinfo/Australia/Lord_Howe  what time it is elsewhere
 asan,tidy     clang-14            command:clang++-14                 builds for the sanitizers and for clang-tidy

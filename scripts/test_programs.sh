@@ -67,6 +67,21 @@ runTestsWithMounts() {
   fi
 }
 
+# runTestsUnderWine PRESET PROGRAM: the tests of a Windows program that are not for the long check.
+runTestsUnderWine() {
+  if isBuilt "$1" "$2.exe"; then
+    runGTest "$1" "$2.exe" '-*BigVolume*' env WINEPREFIX="$sandbox/wine" "$project/scripts/wine.sh"
+  fi
+}
+
+openWine() {
+  install -d -o "$tester" -m 700 "$sandbox/wine"
+}
+
+closeWine() {
+  inSandbox 60 env WINEPREFIX="$sandbox/wine" "$project/scripts/wine.sh" --end || true
+}
+
 # A program without any test in it is not built; that is a failure, not nothing.
 isBuilt() {
   [[ -x build/$1/tests/$2 ]] || { tally note failed "$2" "(the program) is not there" && false; }

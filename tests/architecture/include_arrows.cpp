@@ -46,7 +46,9 @@ constexpr auto kTable = std::to_array<Row>({
     {"ui/qt/mirror", "platform core/controls", Outside::wholeToolkit},
     {"ui/qt", "ui/qt/mirror platform/* core/* cleaner scheduler popupkiller filesecurity about",
      Outside::wholeToolkit},
-    {"ui/win32", "platform/* core/* cleaner scheduler popupkiller filesecurity about",
+    {"ui/win32/mirror", "platform platform/windows core/controls", Outside::wholeToolkit},
+    {"ui/win32",
+     "ui/win32/mirror platform/* core/* cleaner scheduler popupkiller filesecurity about",
      Outside::wholeToolkit},
     {"browser/host", "platform platform/shared", Outside::system},
 });

@@ -1,5 +1,7 @@
 #include "tests/contract/dialogs_contract.h"
 
+#include <filesystem>
+
 namespace zelvane::test {
 namespace {
 
@@ -19,7 +21,7 @@ TEST_P(DialogsContract, ABoxShowsItsTextToTheLetterUnderItsTitleAndIcon) {
 }
 
 TEST_P(DialogsContract, AFileThatDoesNotExistMayBeChosenAndGetsNoExtension) {
-  const std::string path = bed->folder() + "/new container";
+  const std::string path = (std::filesystem::path(bed->folder()) / "new container").string();
   bed->willChoose(path);
 
   EXPECT_EQ(bed->dialogs().chooseFile({"", bed->folder(), "Dravik Files (*.dvk) | *.dvk"}), path);

@@ -36,6 +36,11 @@ class FilesBed {
 
   // Why a promise cannot be asked for here; empty where it can.
   virtual std::string whyNoRefusals() const { return {}; }
+  virtual std::string whyNoSockets() const { return {}; }
+  virtual std::string whyReadersForbidReplacing() const { return {}; }
+
+  // Why links are what they lead to, and stay; empty where they are something themselves.
+  virtual std::string whyNoLinks() const { return {}; }
 };
 
 using MakeFilesBed = std::unique_ptr<FilesBed> (*)();

@@ -81,12 +81,14 @@ TEST_P(FolderTreeContract, HiddenFilesAreNotListedButHiddenFoldersAre) {
 }
 
 TEST_P(FolderTreeContract, ASocketIsNotListed) {
+  if (const std::string why = bed->whyNoSockets(); !why.empty()) GTEST_SKIP() << why;
   bed->addSocket("socket");
 
   EXPECT_TRUE(listOf(*openRoot()).files.empty());
 }
 
 TEST_P(FolderTreeContract, ALinkToAFolderIsListedAsAFile) {
+  if (const std::string why = bed->whyPathsDecide(); !why.empty()) GTEST_SKIP() << why;
   bed->addFile("target/kept");
   bed->addLink("link", bed->path("target"));
 
@@ -97,6 +99,7 @@ TEST_P(FolderTreeContract, ALinkToAFolderIsListedAsAFile) {
 }
 
 TEST_P(FolderTreeContract, ALinkThatLeadsNowhereIsListedAndDeleted) {
+  if (const std::string why = bed->whyPathsDecide(); !why.empty()) GTEST_SKIP() << why;
   bed->addLink("link", bed->path("nothing"));
 
   const auto root = openRoot();
@@ -107,6 +110,7 @@ TEST_P(FolderTreeContract, ALinkThatLeadsNowhereIsListedAndDeleted) {
 }
 
 TEST_P(FolderTreeContract, DeletingALinkKeepsWhatItLeadsTo) {
+  if (const std::string why = bed->whyPathsDecide(); !why.empty()) GTEST_SKIP() << why;
   bed->addFile("target/kept");
   bed->addLink("toFolder", bed->path("target"));
   bed->addLink("toFile", bed->path("target/kept"));
@@ -244,7 +248,8 @@ TEST_P(FolderTreeContract, RemoveFolderDeletesAnEmptyFolderAlone) {
   bed->addFolder("empty");
   bed->addFile("full/file");
   bed->addFile("file");
-  bed->addLink("link", bed->path("empty"));
+  bed->addFolder("target");
+  bed->addLink("link", bed->path("target"));
 
   const auto root = openRoot();
 
@@ -255,6 +260,7 @@ TEST_P(FolderTreeContract, RemoveFolderDeletesAnEmptyFolderAlone) {
   EXPECT_TRUE(bed->has("full/file"));
   EXPECT_TRUE(bed->has("file"));
   EXPECT_TRUE(bed->has("link"));
+  EXPECT_TRUE(bed->has("target"));
   EXPECT_FALSE(bed->has("empty"));
 }
 
@@ -306,6 +312,7 @@ TEST_P(FolderTreeContract, ATreeIsErasedAndItsRootStays) {
 }
 
 TEST_P(FolderTreeContract, TwoThousandLevelsAreErased) {
+  if (const std::string why = bed->whyNotSoDeep(); !why.empty()) GTEST_SKIP() << why;
   bed->addDeepFolders(2000);
 
   eraseBelow(*openRoot());
@@ -314,6 +321,7 @@ TEST_P(FolderTreeContract, TwoThousandLevelsAreErased) {
 }
 
 TEST_P(FolderTreeContract, AFolderThatVanishedCannotBeListed) {
+  if (const std::string why = bed->whyVanishedLooksEmpty(); !why.empty()) GTEST_SKIP() << why;
   bed->addFolder("folder");
   const auto root = openRoot();
   const auto folder = root->openSubfolder("folder");
@@ -324,6 +332,7 @@ TEST_P(FolderTreeContract, AFolderThatVanishedCannotBeListed) {
 }
 
 TEST_P(FolderTreeContract, AnOpenFolderThatIsMovedAwayAndReplacedIsStillTheSame) {
+  if (const std::string why = bed->whyPathsDecide(); !why.empty()) GTEST_SKIP() << why;
   bed->addFile("folder/file");
   bed->addFile("other/file");
   const auto root = openRoot();

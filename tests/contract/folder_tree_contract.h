@@ -54,6 +54,13 @@ class FolderTreeBed {
   // Why a promise cannot be asked for here; empty where it can.
   virtual std::string whyNoMounts() const { return {}; }
   virtual std::string whyNoRefusals() const { return {}; }
+  virtual std::string whyNoSockets() const { return {}; }
+  virtual std::string whyNotSoDeep() const { return {}; }
+  virtual std::string whyVanishedLooksEmpty() const { return {}; }
+
+  // Why a link or a folder that was moved is not itself here but what its path leads to; then it
+  // stays, and so does what it leads to. Empty where open folders and links are what they are.
+  virtual std::string whyPathsDecide() const { return {}; }
 };
 
 using MakeFolderTreeBed = std::unique_ptr<FolderTreeBed> (*)();

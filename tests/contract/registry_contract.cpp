@@ -232,6 +232,7 @@ TEST_P(RegistryContract, WhatAnotherProcessWroteMeanwhileStays) {
 }
 
 TEST_P(RegistryContract, AKeyThatCannotBeWrittenDeniesAccess) {
+  if (const std::string why = bed->whyNoRefusals(); !why.empty()) GTEST_SKIP() << why;
   const auto key = registry.create(Root::classes, ".zvt").key;
   set(key, "value", "1");
   bed->makeUnwritable(Root::classes, ".zvt");
@@ -255,6 +256,7 @@ TEST_P(RegistryContract, ARegistryWithValuesIsFineAndKeepsThem) {
 }
 
 TEST_P(RegistryContract, ADamagedRegistryIsToldOnceAndGivesWayToANewOne) {
+  if (const std::string why = bed->whyNoDamage(); !why.empty()) GTEST_SKIP() << why;
   set(registry.create(Root::classes, ".zvt").key, "value", "1");
   bed->damage();
 
@@ -269,6 +271,7 @@ TEST_P(RegistryContract, ADamagedRegistryIsToldOnceAndGivesWayToANewOne) {
 }
 
 TEST_P(RegistryContract, EachDamagedRegistryIsKeptUnderAnotherName) {
+  if (const std::string why = bed->whyNoDamage(); !why.empty()) GTEST_SKIP() << why;
   bed->damage();
   const auto first = registry.check();
   bed->damage();
@@ -280,6 +283,7 @@ TEST_P(RegistryContract, EachDamagedRegistryIsKeptUnderAnotherName) {
 }
 
 TEST_P(RegistryContract, ADamagedRegistryIsNeitherReadNorWrittenOver) {
+  if (const std::string why = bed->whyNoDamage(); !why.empty()) GTEST_SKIP() << why;
   const auto key = registry.create(Root::classes, ".zvt").key;
   set(key, "value", "1");
   bed->damage();
@@ -294,6 +298,7 @@ TEST_P(RegistryContract, ADamagedRegistryIsNeitherReadNorWrittenOver) {
 }
 
 TEST_P(RegistryContract, ARegistryThatCannotBeReadHasNoKeysAndTakesNone) {
+  if (const std::string why = bed->whyNoDamage(); !why.empty()) GTEST_SKIP() << why;
   bed->makeUnreadable();
 
   EXPECT_EQ(registry.open(Root::currentUser, kMain).result, Result::notFound);
@@ -302,6 +307,7 @@ TEST_P(RegistryContract, ARegistryThatCannotBeReadHasNoKeysAndTakesNone) {
 }
 
 TEST_P(RegistryContract, ARegistryThatCannotBeReadIsToldAndStaysWhereItIs) {
+  if (const std::string why = bed->whyNoDamage(); !why.empty()) GTEST_SKIP() << why;
   bed->makeUnreadable();
 
   EXPECT_NE(registry.check(), std::nullopt);

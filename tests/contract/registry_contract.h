@@ -24,9 +24,13 @@ class RegistryBed {
   // The same registry in the hands of a second process.
   virtual platform::Registry& inAnotherProcess() = 0;
 
+  // Why no key can be made unwritable here; empty where it can.
+  virtual std::string whyNoRefusals() const { return {}; }
   // From now on the key, which exists, cannot be written, nor one be made below it.
   virtual void makeUnwritable(platform::Registry::Root root, const std::string& path) = 0;
 
+  // Why the registry as a whole can be neither damaged nor unreadable here; empty where it can.
+  virtual std::string whyNoDamage() const { return {}; }
   // Makes the registry one that nobody understands ...
   virtual void damage() = 0;
   // ... or one that cannot be read at all.

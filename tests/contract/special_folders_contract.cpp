@@ -7,45 +7,45 @@ namespace zelvane::test {
 using platform::SpecialFolder;
 
 TEST_P(SpecialFoldersContract, TheDocumentsAreWhereTheDesktopSays) {
-  bed->makeFolder(bed->home() + "/My Papers");
-  bed->setDocuments(bed->home() + "/My Papers");
+  bed->makeFolder(inHome("My Papers"));
+  bed->setDocuments(inHome("My Papers"));
 
-  EXPECT_EQ(bed->folders().path(SpecialFolder::personal), bed->home() + "/My Papers");
+  EXPECT_EQ(bed->folders().path(SpecialFolder::personal), inHome("My Papers"));
 }
 
 TEST_P(SpecialFoldersContract, APathHasNoClosingSeparator) {
-  bed->makeFolder(bed->home() + "/Papers");
-  bed->setDocuments(bed->home() + "/Papers//");
+  bed->makeFolder(inHome("Papers"));
+  bed->setDocuments(inHome("Papers") + separator + separator);
 
-  EXPECT_EQ(bed->folders().path(SpecialFolder::personal), bed->home() + "/Papers");
+  EXPECT_EQ(bed->folders().path(SpecialFolder::personal), inHome("Papers"));
 }
 
 TEST_P(SpecialFoldersContract, AFolderThatIsNotThereIsNoFolderAndIsNotMade) {
-  bed->setDocuments(bed->home() + "/Papers");
+  bed->setDocuments(inHome("Papers"));
 
   EXPECT_EQ(bed->folders().path(SpecialFolder::personal), std::nullopt);
   EXPECT_EQ(bed->folders().path(SpecialFolder::personal), std::nullopt);
 }
 
 TEST_P(SpecialFoldersContract, AFileIsNoFolder) {
-  bed->makeFile(bed->home() + "/Papers");
-  bed->setDocuments(bed->home() + "/Papers");
+  bed->makeFile(inHome("Papers"));
+  bed->setDocuments(inHome("Papers"));
 
   EXPECT_EQ(bed->folders().path(SpecialFolder::personal), std::nullopt);
 }
 
 TEST_P(SpecialFoldersContract, AFolderThatGoesIsNoFolderFromThenOn) {
-  bed->makeFolder(bed->home() + "/Papers");
-  bed->setDocuments(bed->home() + "/Papers");
+  bed->makeFolder(inHome("Papers"));
+  bed->setDocuments(inHome("Papers"));
   ASSERT_TRUE(bed->folders().path(SpecialFolder::personal));
 
-  bed->removeFolder(bed->home() + "/Papers");
+  bed->removeFolder(inHome("Papers"));
 
   EXPECT_EQ(bed->folders().path(SpecialFolder::personal), std::nullopt);
 }
 
 TEST_P(SpecialFoldersContract, TheHomeIsNeverTheDocuments) {
-  for (const std::string ending : {"", "/", "//"}) {
+  for (const std::string& ending : {std::string(), separator, separator + separator}) {
     bed->setDocuments(bed->home() + ending);
 
     EXPECT_EQ(bed->folders().path(SpecialFolder::personal), std::nullopt) << ending;
@@ -53,10 +53,10 @@ TEST_P(SpecialFoldersContract, TheHomeIsNeverTheDocuments) {
 }
 
 TEST_P(SpecialFoldersContract, AFolderThatHoldsTheHomeIsNeverTheDocuments) {
-  bed->setDocuments(bed->home().substr(0, bed->home().rfind('/')));
+  bed->setDocuments(bed->home().substr(0, bed->home().rfind(separator)));
   EXPECT_EQ(bed->folders().path(SpecialFolder::personal), std::nullopt);
 
-  bed->setDocuments("/");
+  bed->setDocuments(bed->top());
   EXPECT_EQ(bed->folders().path(SpecialFolder::personal), std::nullopt);
 }
 
@@ -68,19 +68,19 @@ TEST_P(SpecialFoldersContract, AFolderWhoseNameOnlyBeginsLikeTheHomesMayBeTheDoc
 }
 
 TEST_P(SpecialFoldersContract, TheTemporaryPathHasOneClosingSeparator) {
-  bed->makeFolder(bed->home() + "/tmp");
+  bed->makeFolder(inHome("tmp"));
 
-  bed->setTemporary(bed->home() + "/tmp");
-  EXPECT_EQ(bed->folders().temporaryPath(), bed->home() + "/tmp/");
+  bed->setTemporary(inHome("tmp"));
+  EXPECT_EQ(bed->folders().temporaryPath(), inHome("tmp") + separator);
 
-  bed->setTemporary(bed->home() + "/tmp//");
-  EXPECT_EQ(bed->folders().temporaryPath(), bed->home() + "/tmp/");
+  bed->setTemporary(inHome("tmp") + separator + separator);
+  EXPECT_EQ(bed->folders().temporaryPath(), inHome("tmp") + separator);
 }
 
 TEST_P(SpecialFoldersContract, TheHomeIsNeverTheTemporaryFolder) {
   bed->setTemporary(bed->home());
 
-  EXPECT_NE(bed->folders().temporaryPath(), bed->home() + "/");
+  EXPECT_NE(bed->folders().temporaryPath(), bed->home() + separator);
 }
 
 }  // namespace zelvane::test

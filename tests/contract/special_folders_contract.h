@@ -21,6 +21,10 @@ class SpecialFoldersBed {
   // The user's home, which exists.
   virtual std::string home() const = 0;
 
+  // Between the names of a path, and the path of the folder above all that are above the home.
+  virtual char separator() const { return '/'; }
+  virtual std::string top() const { return "/"; }
+
   virtual void makeFolder(const std::string& path) = 0;
   virtual void makeFile(const std::string& path) = 0;
   virtual void removeFolder(const std::string& path) = 0;
@@ -34,7 +38,12 @@ using MakeSpecialFoldersBed = std::unique_ptr<SpecialFoldersBed> (*)();
 
 class SpecialFoldersContract : public testing::TestWithParam<MakeSpecialFoldersBed> {
  protected:
+  std::string inHome(const std::string& name) const {
+    return bed->home() + bed->separator() + name;
+  }
+
   std::unique_ptr<SpecialFoldersBed> bed = GetParam()();
+  const std::string separator = std::string(1, bed->separator());
 };
 
 }  // namespace zelvane::test

@@ -45,12 +45,13 @@ void removeFolder(const std::wstring& path) {
 
 void removeTree(const std::filesystem::path& folder) {
   const std::string plain = platform::plainText(folder.native());
-  const std::wstring path = platform::longPath(plain);
   // Links would be followed there, and paths end earlier than the trees that tests make.
   if (runsUnderWine()) {
-    runUnixTool("rm", {"-rf", "--", unixPath(plain)});
+    const std::string there = unixPath(plain);
+    runUnixTool("chmod", {"-R", "u+rwx", "--", there});
+    runUnixTool("rm", {"-rf", "--", there});
   } else {
-    removeFolder(path);
+    removeFolder(platform::longPath(plain));
   }
 }
 

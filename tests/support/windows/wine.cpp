@@ -14,10 +14,7 @@ struct FreeText {
   void operator()(char* text) const { HeapFree(GetProcessHeap(), 0, text); }
 };
 
-struct Close {
-  using pointer = HANDLE;
-  void operator()(HANDLE handle) const { CloseHandle(handle); }
-};
+constexpr ULONGLONG kLongestWait = 60'000;  // milliseconds
 
 }  // namespace
 
@@ -34,21 +31,31 @@ std::string unixPath(const std::string& path) {
   return found.get();
 }
 
-// A Unix process cannot be waited for; the program that starts one for others can.
+// A Unix process cannot be waited for, so a shell there makes a file when the tool has ended.
 void runUnixTool(const std::string& name, const std::vector<std::string>& arguments) {
-  std::string line = "start.exe /wait /unix /bin/" + name;
-  for (const std::string& argument : arguments) line += " \"" + argument + "\"";
+  std::wstring folder(MAX_PATH + 1, L'\0');
+  std::wstring ended(MAX_PATH + 1, L'\0');
+  folder.resize(GetTempPathW(static_cast<DWORD>(folder.size()), folder.data()));
+  GetTempFileNameW(folder.c_str(), L"zt", 0, ended.data());
+  DeleteFileW(ended.c_str());
+  std::string line = R"(sh -c "ended=$1; shift; \"$@\"; : > \"$ended\"" sh)";
+  const auto add = [&line](const std::string& argument) { line += " \"" + argument + "\""; };
+  add(unixPath(platform::plainText(ended.c_str())));
+  add(name);
+  for (const std::string& argument : arguments) add(argument);
   std::wstring wide = platform::wideText(line);
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   PROCESS_INFORMATION started{};
-  if (CreateProcessW(nullptr, wide.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                     &started) == 0) {
+  if (CreateProcessW(L"\\\\?\\unix\\bin\\sh", wide.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                     nullptr, &startup, &started) == 0) {
     throw std::runtime_error("cannot start " + name);
   }
-  CloseHandle(started.hThread);
-  const std::unique_ptr<HANDLE, Close> process(started.hProcess);
-  WaitForSingleObject(process.get(), INFINITE);
+  const ULONGLONG start = GetTickCount64();
+  while (DeleteFileW(ended.c_str()) == 0) {
+    if (GetTickCount64() - start > kLongestWait) throw std::runtime_error(name + " does not end");
+    Sleep(1);
+  }
 }
 
 }  // namespace zelvane::test

@@ -1,0 +1,34 @@
+// The program's window on the screen: every control of frmMain has its window here.
+#pragma once
+
+#include <map>
+
+#include "core/main_window/frm_main.h"
+#include "ui/win32/mirror/form_window.h"
+#include "ui/win32/mirror/open_boxes.h"
+
+namespace zelvane::win32 {
+
+class TabStripWindow;
+
+// It holds no state and decides nothing. `window` and `look` outlive it; `boxes` stops the timers.
+class MainWindow : public FormWindow {
+ public:
+  MainWindow(main_window::frmMain& window, OpenBoxes& boxes, Look& look);
+
+  // Ctrl+Tab and Ctrl+Page Down turn to the next page, with Shift or Page Up to the one before.
+  bool onKey(const MSG& message) override;
+
+ private:
+  using Faces = std::map<const controls::Control*, Window*>;
+
+  void layOutPages(main_window::frmMain& window);
+  Faces facesOfControls() const;
+  static void nameByLabels(main_window::frmMain& window, const Faces& faces);
+  static void orderTabKeys(main_window::frmMain& window, const Faces& faces);
+  static void number(main_window::frmMain& window, const Faces& faces);
+
+  TabStripWindow* tabs_ = nullptr;
+};
+
+}  // namespace zelvane::win32

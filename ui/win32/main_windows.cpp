@@ -1,0 +1,95 @@
+// Where ports, window and shell meet on a Windows desktop. It chooses them, and nothing else.
+
+#include <ole2.h>
+#include <windows.h>
+
+#include "core/main_window/frm_main.h"
+#include "core/main_window/startup.h"
+#include "platform/desktop.h"
+#include "platform/windows/windows_clock.h"
+#include "platform/windows/windows_files.h"
+#include "platform/windows/windows_folder_tree.h"
+#include "platform/windows/windows_identity.h"
+#include "platform/windows/windows_process_end.h"
+#include "platform/windows/windows_profile_file.h"
+#include "platform/windows/windows_recycle_bin.h"
+#include "platform/windows/windows_registry.h"
+#include "platform/windows/windows_settings.h"
+#include "platform/windows/windows_single_instance.h"
+#include "platform/windows/windows_special_folders.h"
+#include "ui/win32/main_window.h"
+#include "ui/win32/message_loop.h"
+#include "ui/win32/mirror/open_boxes.h"
+#include "ui/win32/win32_clipboard.h"
+#include "ui/win32/win32_dialogs.h"
+#include "ui/win32/win32_event_pump.h"
+#include "ui/win32/win32_window_commands.h"
+
+namespace {
+
+using namespace zelvane;
+
+// The ports of a Windows desktop, in the order in which they stand on each other.
+struct WindowsDesktop {
+  explicit WindowsDesktop(win32::OpenBoxes& boxes) : dialogs(boxes) {}
+
+  // From now on boxes and commands belong to this window.
+  void attach(HWND shell) {
+    owner = shell;
+    dialogs.attach(shell);
+    window.attach(shell);
+  }
+
+  HWND owner = nullptr;
+  platform::WindowsIdentity identity;
+  platform::WindowsClock clock;
+  platform::WindowsSettings settings;
+  platform::WindowsRegistry registry;
+  platform::WindowsProfileFile winIni;
+  platform::WindowsSpecialFolders specialFolders{platform::systemFolders([this] { return owner; })};
+  platform::WindowsFolderTree folderTree;
+  platform::WindowsFiles files;
+  platform::WindowsRecycleBin recycleBin{[this] { return owner; }};
+  platform::WindowsSingleInstance instance;
+  platform::WindowsProcessEnd process;
+  win32::Win32Clipboard clipboard;
+  win32::Win32Dialogs dialogs;
+  win32::Win32WindowCommands window;
+  win32::Win32EventPump pump;
+
+  platform::Desktop ports() {
+    return {.identity = identity,
+            .clock = clock,
+            .settings = settings,
+            .registry = registry,
+            .winIni = winIni,
+            .specialFolders = specialFolders,
+            .folderTree = folderTree,
+            .files = files,
+            .recycleBin = recycleBin,
+            .clipboard = clipboard,
+            .dialogs = dialogs,
+            .window = window,
+            .pump = pump,
+            .instance = instance,
+            .process = process};
+  }
+};
+
+}  // namespace
+
+// No argument is ever read.
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
+  OleInitialize(nullptr);  // the shell's own dialogs need it, and what screen readers ask
+  win32::OpenBoxes boxes;
+  WindowsDesktop desktop(boxes);
+  const platform::Desktop ports = desktop.ports();
+  main_window::frmMain window(ports);
+  win32::Look look;
+  win32::MainWindow shell(window, boxes, look);
+  desktop.attach(shell.handle());
+
+  main_window::GenFunc::Main(ports, window);
+  win32::runMessageLoop();
+  return 0;
+}

@@ -1,0 +1,176 @@
+#include "ui/win32/mirror/form_window.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <commctrl.h>
+
+#include "ui/win32/mirror/follow.h"
+
+namespace zelvane::win32 {
+
+namespace {
+
+constexpr int kWidestTip = 400;  // at 96 dots per inch
+
+HWND makeTips(HWND window) {
+  return CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
+                         WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0, 0, window, nullptr,
+                         GetModuleHandleW(nullptr), nullptr);
+}
+
+}  // namespace
+
+FormWindow::FormWindow(controls::Form& control, Look& look)
+    : Pane({kPaneClass, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT}, look),
+      control_(control),
+      ownLook_(look),
+      tips_(makeTips(handle())) {
+  setControl(control);
+  setBackground(COLOR_BTNFACE);
+  adopt(GetDpiForWindow(handle()));
+  follow(control, *this, [this] { showControl(); });
+}
+
+// While the members are still there: the system tells of the window's end.
+FormWindow::~FormWindow() { destroy(); }
+
+void FormWindow::adopt(UINT dpi) {
+  ownLook_.setDpi(dpi);
+  SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, look().scaled(kWidestTip));
+  onLookChanged();
+}
+
+SIZE FormWindow::withBorder(Size inside) const {
+  RECT frame{0, 0, inside.width, inside.height};
+  AdjustWindowRectExForDpi(&frame, WS_OVERLAPPEDWINDOW, FALSE, WS_EX_CONTROLPARENT, look().dpi());
+  return {frame.right - frame.left, frame.bottom - frame.top};
+}
+
+void FormWindow::fit() {
+  MONITORINFO monitor{};
+  monitor.cbSize = sizeof monitor;
+  GetMonitorInfoW(MonitorFromWindow(handle(), MONITOR_DEFAULTTOPRIMARY), &monitor);
+  const RECT& screen = monitor.rcWork;
+  const int width = body().natural().width;
+  const SIZE wanted = withBorder({width, body().heightFor(width)});
+  const LONG widest = screen.right - screen.left;
+  const LONG highest = screen.bottom - screen.top;
+  const SIZE size{std::min(wanted.cx, widest), std::min(wanted.cy, highest)};
+  SetWindowPos(handle(), nullptr, static_cast<int>(screen.left + (widest - size.cx) / 2),
+               static_cast<int>(screen.top + (highest - size.cy) / 2), static_cast<int>(size.cx),
+               static_cast<int>(size.cy), SWP_NOZORDER | SWP_NOACTIVATE);
+  layOut();
+}
+
+void FormWindow::setTip(HWND tool, const std::wstring& text) {
+  TTTOOLINFOW tip{};
+  tip.cbSize = sizeof tip;
+  tip.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tip.hwnd = handle();
+  tip.uId = reinterpret_cast<UINT_PTR>(tool);
+  std::wstring shown = text;
+  tip.lpszText = shown.data();
+  SendMessageW(tips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tip));
+  if (!text.empty()) {
+    SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tip));
+  }
+}
+
+// A window that is not seen keeps its state for when it is.
+void FormWindow::showControl() {
+  setCaption(plainCaption(control_.caption()));
+  EnableWindow(handle(), control_.enabled() ? TRUE : FALSE);
+  const bool minimised = control_.state() == controls::Form::State::minimised;
+  if (!control_.visible()) {
+    if (isShown()) {
+      ShowWindow(handle(), SW_HIDE);
+    }
+  } else if (!isShown()) {
+    ShowWindow(handle(), minimised ? SW_SHOWMINIMIZED : SW_SHOWNORMAL);
+  } else if (minimised != (IsIconic(handle()) != FALSE)) {
+    ShowWindow(handle(), minimised ? SW_MINIMIZE : SW_RESTORE);
+  }
+}
+
+void FormWindow::onSize(WPARAM how) {
+  if (isShown()) {
+    control_.setState(how == SIZE_MINIMIZED ? controls::Form::State::minimised
+                                            : controls::Form::State::normal);
+  }
+  if (how != SIZE_MINIMIZED) {
+    layOut();
+  }
+}
+
+// The keys go back to who had them.
+void FormWindow::onActivate(WPARAM how) {
+  if (LOWORD(how) == WA_INACTIVE) {
+    focused_ = GetFocus();
+    return;
+  }
+  if (HIWORD(how) == 0) {
+    const bool usable =
+        IsChild(handle(), focused_) && IsWindowVisible(focused_) && IsWindowEnabled(focused_);
+    SetFocus(usable ? focused_ : GetNextDlgTabItem(handle(), nullptr, FALSE));
+  }
+  control_.activated.raise();
+}
+
+// Many things may have asked by now; one answer is enough.
+void FormWindow::onLayoutAsked() {
+  MSG another;
+  while (PeekMessageW(&another, handle(), kLayoutMessage, kLayoutMessage, PM_REMOVE)) {
+  }
+  layOut();
+}
+
+void FormWindow::onDpi(UINT dpi, const RECT& wanted) {
+  adopt(dpi);
+  SetWindowPos(handle(), nullptr, wanted.left, wanted.top, wanted.right - wanted.left,
+               wanted.bottom - wanted.top, SWP_NOZORDER | SWP_NOACTIVATE);
+  layOut();
+}
+
+LRESULT FormWindow::onMessage(UINT message, WPARAM word, LPARAM value) {
+  switch (message) {
+    case WM_CLOSE:
+      control_.unload(controls::UnloadMode::controlMenu);
+      return 0;
+    case WM_QUERYENDSESSION:
+      return TRUE;
+    case WM_ENDSESSION:
+      if (word != FALSE) {
+        control_.unload(controls::UnloadMode::windows);
+      }
+      return 0;
+    case WM_SIZE:
+      onSize(word);
+      return 0;
+    case WM_SHOWWINDOW:
+      if (value == 0) {  // nobody else's window opened or closed over it
+        control_.setVisible(word != FALSE);
+      }
+      break;
+    case WM_ACTIVATE:
+      onActivate(word);
+      return 0;
+    case WM_DPICHANGED:
+      onDpi(LOWORD(word), *reinterpret_cast<const RECT*>(value));
+      return 0;
+    case WM_SETTINGCHANGE:
+      if (word == SPI_SETNONCLIENTMETRICS) {
+        adopt(look().dpi());
+        layOut();
+      }
+      break;
+    case kLayoutMessage:
+      onLayoutAsked();
+      return 0;
+    default:
+      break;
+  }
+  return Pane::onMessage(message, word, value);
+}
+
+}  // namespace zelvane::win32

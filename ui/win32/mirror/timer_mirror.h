@@ -1,0 +1,37 @@
+// Ticks a timer of the program.
+#pragma once
+
+#include <chrono>
+
+#include "core/controls/timer.h"
+#include "ui/win32/mirror/open_boxes.h"
+#include "ui/win32/mirror/pane.h"
+
+namespace zelvane::win32 {
+
+// Each wait begins when the timer is enabled, when a tick has been handled, or when the last open
+// box was closed, and it lasts a whole interval by the monotonic clock. So ticks come late rather
+// than early, never while a box is open, and never inside the handler of the tick before, unless
+// that handler switched the timer off and on.
+class TimerMirror : public Window {
+ public:
+  // The pane owns it; nothing of it is seen.
+  TimerMirror(controls::Timer& control, OpenBoxes& boxes, Pane& parent);
+
+ protected:
+  LRESULT onMessage(UINT message, WPARAM word, LPARAM value) override;
+
+ private:
+  using Clock = std::chrono::steady_clock;
+
+  void restart();
+  void expire();
+  void waitFor(Clock::duration time);
+
+  controls::Timer& control_;
+  const OpenBoxes& boxes_;
+  Clock::time_point due_;
+  bool waiting_ = false;
+};
+
+}  // namespace zelvane::win32
