@@ -36,7 +36,7 @@ void PictureWidget::paintEvent(QPaintEvent*) {
 QIcon icon(Image image) {
   QSvgRenderer drawing(resource(image));
   QIcon icon;
-  for (const int side : {16, 22, 24, 32, 48, 64, 128, 256}) {
+  for (const int side : {16, 24, 32, 48, 64, 128}) {
     QPixmap pixmap(side, side);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
