@@ -14,7 +14,7 @@ def contestants(options):
 
 
 def main():
-    options = section.read_options(__doc__, rounds=3, files=1000)
+    options = section.read_options(__doc__, rounds=9, files=1000)
     page = section.Section(f"Erasing {trees.size(options)}", options.rounds)
     for place in options.places:
         tree = trees.Trees(place, options)
