@@ -48,13 +48,9 @@ comeHome() {
 }
 
 closeSandbox() {
-  local pid
   stopRunning
   if [[ $tester == "zelvane-$$" ]]; then
-    for pid in $(ps -o pid= -u "$tester"); do
-      kill -KILL "$pid" 2>/dev/null || true
-    done
-    userdel "$tester"
+    endTester
   fi
   if [[ -n $sandbox ]]; then
     chmod -R u+rwX "$sandbox" 2>/dev/null || true # a test of permissions may have ended early
@@ -98,6 +94,19 @@ inSandbox() {
   wait "$running" 2>/dev/null || ended=$?
   stopRunning
   return "$ended"
+}
+
+# A user goes when the last of its processes has gone, and some take a moment to die.
+endTester() {
+  local attempt pid
+  for attempt in {1..100}; do
+    for pid in $(ps -o pid= -u "$tester"); do
+      kill -KILL "$pid" 2>/dev/null || true
+    done
+    userdel "$tester" 2>/dev/null && return
+    sleep 0.1
+  done
+  userdel "$tester" # says why not
 }
 
 stopRunning() {

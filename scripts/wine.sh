@@ -8,7 +8,8 @@ export WINEPREFIX=$WINEPREFIX/prefix WINEDEBUG=-all LC_ALL=C.UTF-8
 export WINEDLLOVERRIDES="winemenubuilder.exe=d" # no menu entries in the caller's home
 
 if [[ ${1-} == --end ]]; then
-  exec wineserver -k
+  wineserver -k || true # nobody there
+  exec wineserver -w
 fi
 
 # The services live on for a while; they must not hold the caller's pipes.
