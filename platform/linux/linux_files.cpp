@@ -11,6 +11,7 @@
 #include "platform/linux/descriptor.h"
 #include "platform/linux/linux_pending_file.h"
 #include "platform/linux/system_error.h"
+#include "platform/shared/read_to_end.h"
 
 namespace zelvane::platform {
 namespace {
@@ -69,14 +70,7 @@ std::unique_ptr<ReadStream> LinuxFiles::open(const std::string& path) const {
 
 std::string LinuxFiles::readWhole(const std::string& path, std::uint64_t limit) const {
   LinuxReadStream stream(openForReading(path));
-  std::string content;
-  for (;;) {
-    std::string piece = stream.read(kChunk);
-    if (piece.empty()) return content;
-    // Counted while reading, because a file may grow after anyone asked for its size.
-    if (piece.size() > limit - content.size()) throw Error(ErrorNumber::accessError);
-    content += piece;
-  }
+  return readToEnd(stream, limit);
 }
 
 void LinuxFiles::remove(const std::string& path) {

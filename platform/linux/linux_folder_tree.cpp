@@ -58,6 +58,7 @@ class LinuxOpenFolder : public OpenFolder {
   FolderListing list(EventPump& pump) override {
     FolderListing listing;
     bool allFree = true;
+    const milliseconds begun = now();  // whatever the waiting events take counts as well
     folder_->read([&](std::span<const Entry> piece) {
       for (const Entry& entry : piece) {
         if (entry.kind == EntryKind::folder) {
@@ -69,7 +70,7 @@ class LinuxOpenFolder : public OpenFolder {
       }
       pump.doEvents();
     });
-    freeUntil_ = allFree ? now() + erasure_.listingIsGood : milliseconds::min();
+    freeUntil_ = allFree ? begun + erasure_.listingIsGood : milliseconds::min();
     return listing;
   }
 

@@ -6,6 +6,7 @@
 #include <windows.h>
 
 #include "platform/error.h"
+#include "platform/shared/read_to_end.h"
 #include "platform/windows/deletion.h"
 #include "platform/windows/entry_kind.h"
 #include "platform/windows/handle.h"
@@ -99,14 +100,7 @@ std::unique_ptr<ReadStream> WindowsFiles::open(const std::string& path) const {
 
 std::string WindowsFiles::readWhole(const std::string& path, std::uint64_t limit) const {
   WindowsReadStream stream(openForReading(path));
-  std::string content;
-  for (;;) {
-    std::string piece = stream.read(kChunk);
-    if (piece.empty()) return content;
-    // Counted while reading, because a file may grow after anyone asked for its size.
-    if (piece.size() > limit - content.size()) throw Error(ErrorNumber::accessError);
-    content += piece;
-  }
+  return readToEnd(stream, limit);
 }
 
 void WindowsFiles::remove(const std::string& path) {

@@ -56,7 +56,7 @@ class QtDialogsBed : public DialogsBed {
 
  private:
   ThrowAwayFolder folder_;
-  qt::OpenBoxes boxes_;
+  controls::OpenBoxes boxes_;
   qt::QtDialogs dialogs_{boxes_};
   ModalUser user_;
   platform::MessageBox lastBox_;
@@ -67,7 +67,7 @@ std::unique_ptr<DialogsBed> makeQtDialogsBed() { return std::make_unique<QtDialo
 INSTANTIATE_TEST_SUITE_P(Qt, DialogsContract, testing::Values(makeQtDialogsBed));
 
 TEST(QtDialogs, ABoxIsCountedAsOpenUntilItIsClosed) {
-  qt::OpenBoxes boxes;
+  controls::OpenBoxes boxes;
   qt::QtDialogs dialogs(boxes);
   ModalUser user;
   bool openMeanwhile = false;
@@ -86,7 +86,7 @@ TEST(QtDialogs, ABoxIsCountedAsOpenUntilItIsClosed) {
 }
 
 TEST(QtDialogs, ABoxBelongsToTheWindowThatWasAttached) {
-  qt::OpenBoxes boxes;
+  controls::OpenBoxes boxes;
   qt::QtDialogs dialogs(boxes);
   QWidget window;
   dialogs.attach(window);

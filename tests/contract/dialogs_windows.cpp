@@ -118,7 +118,7 @@ class Win32DialogsBed : public DialogsBed {
  private:
   Ole ole_;
   ThrowAwayFolder folder_;
-  win32::OpenBoxes boxes_;
+  controls::OpenBoxes boxes_;
   win32::Win32Dialogs dialogs_{boxes_};
   ModalUser user_;
   platform::MessageBox lastBox_;
@@ -129,7 +129,7 @@ std::unique_ptr<DialogsBed> makeWin32DialogsBed() { return std::make_unique<Win3
 INSTANTIATE_TEST_SUITE_P(Win32, DialogsContract, testing::Values(makeWin32DialogsBed));
 
 TEST(Win32Dialogs, ABoxIsCountedAsOpenUntilItIsClosed) {
-  win32::OpenBoxes boxes;
+  controls::OpenBoxes boxes;
   win32::Win32Dialogs dialogs(boxes);
   ModalUser user;
   bool openMeanwhile = false;
@@ -148,7 +148,7 @@ TEST(Win32Dialogs, ABoxIsCountedAsOpenUntilItIsClosed) {
 }
 
 TEST(Win32Dialogs, ABoxBelongsToTheWindowThatWasAttached) {
-  win32::OpenBoxes boxes;
+  controls::OpenBoxes boxes;
   win32::Win32Dialogs dialogs(boxes);
   const HWND window =
       CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 0, 0, nullptr, nullptr, nullptr, nullptr);

@@ -319,7 +319,7 @@ class QtTimerTest : public QtMirrorTest {
     }
   }
 
-  qt::OpenBoxes boxes;
+  controls::OpenBoxes boxes;
 };
 
 TEST_F(QtTimerTest, ItTicksAgainAndAgainAndNeverEarly) {
@@ -355,11 +355,11 @@ TEST_F(QtTimerTest, WhileABoxIsOpenNothingTicks) {
   Count ticks(stopped.ticked);
   Count passed(judge.ticked);
   const qt::TimerMirror mirror(stopped, boxes, window);
-  qt::OpenBoxes none;
+  controls::OpenBoxes none;
   const qt::TimerMirror other(judge, none, window);
 
   {
-    const qt::OpenBoxes::Opening opening(boxes);
+    const controls::OpenBoxes::Opening opening(boxes);
     wait([&] { return passed.times == 2; });
     EXPECT_EQ(ticks.times, 0);
   }

@@ -25,7 +25,7 @@ class Win32TimerTest : public Win32MirrorTest {
     }
   }
 
-  win32::OpenBoxes boxes;
+  controls::OpenBoxes boxes;
 };
 
 TEST_F(Win32TimerTest, ItTicksAgainAndAgainAndNeverEarly) {
@@ -59,11 +59,11 @@ TEST_F(Win32TimerTest, WhileABoxIsOpenNothingTicks) {
   const Count ticks(stopped.ticked);
   const Count passed(judge.ticked);
   window.make<win32::TimerMirror>(stopped, boxes);
-  win32::OpenBoxes none;
+  controls::OpenBoxes none;
   window.make<win32::TimerMirror>(judge, none);
 
   {
-    const win32::OpenBoxes::Opening opening(boxes);
+    const controls::OpenBoxes::Opening opening(boxes);
     wait([&] { return passed.times == 2; });
     EXPECT_EQ(ticks.times, 0);
   }

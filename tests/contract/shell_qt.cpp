@@ -43,7 +43,7 @@ class QtShellTest : public testing::Test {
 
   platform::MemoryDesktop desktop;
   main_window::frmMain window{desktop.ports()};
-  qt::OpenBoxes boxes;
+  controls::OpenBoxes boxes;
   qt::MainWindow shell{window, boxes};
 };
 

@@ -54,7 +54,7 @@ class Win32ShellTest : public testing::Test {
 
   platform::MemoryDesktop desktop;
   main_window::frmMain window{desktop.ports()};
-  win32::OpenBoxes boxes;
+  controls::OpenBoxes boxes;
   win32::Look look;
   win32::MainWindow shell{window, boxes, look};
 };

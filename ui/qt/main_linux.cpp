@@ -1,5 +1,6 @@
 // Where ports, window and shell meet on a Linux desktop. It chooses them, and nothing else.
 
+#include "core/controls/open_boxes.h"
 #include "core/main_window/frm_main.h"
 #include "core/main_window/startup.h"
 #include "platform/desktop.h"
@@ -19,7 +20,6 @@
 #include "platform/shared/live_folders.h"
 #include "ui/qt/application.h"
 #include "ui/qt/main_window.h"
-#include "ui/qt/mirror/open_boxes.h"
 #include "ui/qt/qt_clipboard.h"
 #include "ui/qt/qt_dialogs.h"
 #include "ui/qt/qt_event_pump.h"
@@ -31,7 +31,7 @@ using namespace zelvane;
 
 // The ports of a Linux desktop, in the order in which they stand on each other.
 struct LinuxDesktop {
-  explicit LinuxDesktop(qt::OpenBoxes& boxes) : dialogs(boxes) {}
+  explicit LinuxDesktop(controls::OpenBoxes& boxes) : dialogs(boxes) {}
 
   const platform::Environment environment = platform::Environment::ofProcess();
   platform::LinuxIdentity identity{environment};
@@ -77,7 +77,7 @@ int main(int, char** arguments) {
   // The toolkit is given the program's name alone: no argument is ever read.
   int count = 1;
   qt::Application application(count, arguments);
-  qt::OpenBoxes boxes;
+  controls::OpenBoxes boxes;
   LinuxDesktop desktop(boxes);
   const platform::Desktop ports = desktop.ports();
   main_window::frmMain window(ports);

@@ -63,7 +63,7 @@ bool isTabStop(const QWidget& widget) {
 
 }  // namespace
 
-MainWindow::MainWindow(main_window::frmMain& window, OpenBoxes& boxes)
+MainWindow::MainWindow(main_window::frmMain& window, controls::OpenBoxes& boxes)
     : FormWidget(window.mainPage.form, nullptr, Qt::Window) {
   setWindowIcon(icon(controls::Picture::Image::programIcon));
   layOut(window);

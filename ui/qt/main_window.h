@@ -4,16 +4,16 @@
 #include <QHash>
 #include <QString>
 
+#include "core/controls/open_boxes.h"
 #include "core/main_window/frm_main.h"
 #include "ui/qt/mirror/form_widget.h"
-#include "ui/qt/mirror/open_boxes.h"
 
 namespace zelvane::qt {
 
 // It holds no state and decides nothing. `window` outlives it; `boxes` stops the timers.
 class MainWindow : public FormWidget {
  public:
-  MainWindow(main_window::frmMain& window, OpenBoxes& boxes);
+  MainWindow(main_window::frmMain& window, controls::OpenBoxes& boxes);
 
  private:
   // The widgets of controls, by the controls' names.

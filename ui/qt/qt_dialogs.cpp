@@ -56,12 +56,12 @@ std::optional<std::string> ask(QFileDialog& dialog) {
 // file that exists, or enter what was chosen into the list of recent documents, which is one of the
 // traces that this program erases. The toolkit's keeps its history in a settings file; a folder
 // that cannot exist leaves it none.
-QtDialogs::QtDialogs(OpenBoxes& boxes) : boxes_(boxes) {
+QtDialogs::QtDialogs(controls::OpenBoxes& boxes) : boxes_(boxes) {
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, "/dev/null");
 }
 
 void QtDialogs::show(const platform::MessageBox& box) {
-  const OpenBoxes::Opening opening(boxes_);
+  const controls::OpenBoxes::Opening opening(boxes_);
   QMessageBox message(toQt(box.icon), QString::fromStdString(box.title),
                       QString::fromStdString(box.text), QMessageBox::Ok, window_);
   message.setTextFormat(Qt::PlainText);
@@ -69,7 +69,7 @@ void QtDialogs::show(const platform::MessageBox& box) {
 }
 
 std::optional<std::string> QtDialogs::chooseFile(const platform::FileQuestion& question) {
-  const OpenBoxes::Opening opening(boxes_);
+  const controls::OpenBoxes::Opening opening(boxes_);
   QFileDialog dialog(window_, QString::fromStdString(question.title),
                      QString::fromStdString(question.initialFolder));
   dialog.setOption(QFileDialog::DontUseNativeDialog);
@@ -79,7 +79,7 @@ std::optional<std::string> QtDialogs::chooseFile(const platform::FileQuestion& q
 }
 
 std::optional<std::string> QtDialogs::chooseFolder(const std::string& prompt) {
-  const OpenBoxes::Opening opening(boxes_);
+  const controls::OpenBoxes::Opening opening(boxes_);
   QFileDialog dialog(window_, QString::fromStdString(prompt));
   dialog.setOption(QFileDialog::DontUseNativeDialog);
   dialog.setOption(QFileDialog::ShowDirsOnly);

@@ -4,15 +4,15 @@
 #include <QPointer>
 #include <QWidget>
 
+#include "core/controls/open_boxes.h"
 #include "platform/dialogs.h"
-#include "ui/qt/mirror/open_boxes.h"
 
 namespace zelvane::qt {
 
 class QtDialogs : public platform::Dialogs {
  public:
   // Counts its boxes in `boxes`, so that the timers stand still while one is open.
-  explicit QtDialogs(OpenBoxes& boxes);
+  explicit QtDialogs(controls::OpenBoxes& boxes);
 
   // From now on boxes belong to this window. Before, they stand on their own.
   void attach(QWidget& window) { window_ = &window; }
@@ -22,7 +22,7 @@ class QtDialogs : public platform::Dialogs {
   std::optional<std::string> chooseFolder(const std::string& prompt) override;
 
  private:
-  OpenBoxes& boxes_;
+  controls::OpenBoxes& boxes_;
   QPointer<QWidget> window_;
 };
 

@@ -51,7 +51,7 @@ bool isDown(int key) { return GetKeyState(key) < 0; }
 
 }  // namespace
 
-MainWindow::MainWindow(main_window::frmMain& window, OpenBoxes& boxes, Look& look)
+MainWindow::MainWindow(main_window::frmMain& window, controls::OpenBoxes& boxes, Look& look)
     : FormWindow(window.mainPage.form, look) {
   layOutPages(window);
   const Faces faces = facesOfControls();

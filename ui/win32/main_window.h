@@ -3,9 +3,9 @@
 
 #include <map>
 
+#include "core/controls/open_boxes.h"
 #include "core/main_window/frm_main.h"
 #include "ui/win32/mirror/form_window.h"
-#include "ui/win32/mirror/open_boxes.h"
 
 namespace zelvane::win32 {
 
@@ -14,7 +14,7 @@ class TabStripWindow;
 // It holds no state and decides nothing. `window` and `look` outlive it; `boxes` stops the timers.
 class MainWindow : public FormWindow {
  public:
-  MainWindow(main_window::frmMain& window, OpenBoxes& boxes, Look& look);
+  MainWindow(main_window::frmMain& window, controls::OpenBoxes& boxes, Look& look);
 
   // Ctrl+Tab and Ctrl+Page Down turn to the next page, with Shift or Page Up to the one before.
   bool onKey(const MSG& message) override;

@@ -3,6 +3,7 @@
 #include <ole2.h>
 #include <windows.h>
 
+#include "core/controls/open_boxes.h"
 #include "core/main_window/frm_main.h"
 #include "core/main_window/startup.h"
 #include "platform/desktop.h"
@@ -19,7 +20,6 @@
 #include "platform/windows/windows_special_folders.h"
 #include "ui/win32/main_window.h"
 #include "ui/win32/message_loop.h"
-#include "ui/win32/mirror/open_boxes.h"
 #include "ui/win32/win32_clipboard.h"
 #include "ui/win32/win32_dialogs.h"
 #include "ui/win32/win32_event_pump.h"
@@ -31,7 +31,7 @@ using namespace zelvane;
 
 // The ports of a Windows desktop, in the order in which they stand on each other.
 struct WindowsDesktop {
-  explicit WindowsDesktop(win32::OpenBoxes& boxes) : dialogs(boxes) {}
+  explicit WindowsDesktop(controls::OpenBoxes& boxes) : dialogs(boxes) {}
 
   // From now on boxes and commands belong to this window.
   void attach(HWND shell) {
@@ -81,7 +81,7 @@ struct WindowsDesktop {
 // No argument is ever read.
 int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
   OleInitialize(nullptr);  // the shell's own dialogs need it, and what screen readers ask
-  win32::OpenBoxes boxes;
+  controls::OpenBoxes boxes;
   WindowsDesktop desktop(boxes);
   const platform::Desktop ports = desktop.ports();
   main_window::frmMain window(ports);

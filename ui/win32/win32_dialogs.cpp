@@ -55,7 +55,7 @@ const wchar_t* orSystems(const std::wstring& text) { return text.empty() ? nullp
 }  // namespace
 
 void Win32Dialogs::show(const platform::MessageBox& box) {
-  const OpenBoxes::Opening opening(boxes_);
+  const controls::OpenBoxes::Opening opening(boxes_);
   MessageBoxW(window_, platform::wideText(box.text).c_str(), platform::wideText(box.title).c_str(),
               MB_OK | signOf(box.icon));
 }
@@ -64,7 +64,7 @@ void Win32Dialogs::show(const platform::MessageBox& box) {
 // of recent documents, which is one of the traces that this program erases; and the process stays
 // in its folder.
 std::optional<std::string> Win32Dialogs::chooseFile(const platform::FileQuestion& question) {
-  const OpenBoxes::Opening opening(boxes_);
+  const controls::OpenBoxes::Opening opening(boxes_);
   const std::wstring title = platform::wideText(question.title);
   const std::wstring folder = platform::wideText(question.initialFolder);
   const std::wstring filter = systemFilter(question.filter);
@@ -86,7 +86,7 @@ std::optional<std::string> Win32Dialogs::chooseFile(const platform::FileQuestion
 }
 
 std::optional<std::string> Win32Dialogs::chooseFolder(const std::string& prompt) {
-  const OpenBoxes::Opening opening(boxes_);
+  const controls::OpenBoxes::Opening opening(boxes_);
   const std::wstring title = platform::wideText(prompt);
   BROWSEINFOW asked{};
   asked.hwndOwner = window_;

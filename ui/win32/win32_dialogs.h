@@ -3,15 +3,15 @@
 
 #include <windows.h>
 
+#include "core/controls/open_boxes.h"
 #include "platform/dialogs.h"
-#include "ui/win32/mirror/open_boxes.h"
 
 namespace zelvane::win32 {
 
 class Win32Dialogs : public platform::Dialogs {
  public:
   // Counts its boxes in `boxes`, so that the timers stand still while one is open.
-  explicit Win32Dialogs(OpenBoxes& boxes) : boxes_(boxes) {}
+  explicit Win32Dialogs(controls::OpenBoxes& boxes) : boxes_(boxes) {}
 
   // From now on boxes belong to this window. Before, they stand on their own.
   void attach(HWND window) { window_ = window; }
@@ -21,7 +21,7 @@ class Win32Dialogs : public platform::Dialogs {
   std::optional<std::string> chooseFolder(const std::string& prompt) override;
 
  private:
-  OpenBoxes& boxes_;
+  controls::OpenBoxes& boxes_;
   HWND window_ = nullptr;
 };
 

@@ -6,7 +6,7 @@
 
 namespace zelvane::qt {
 
-TimerMirror::TimerMirror(controls::Timer& control, OpenBoxes& boxes, QObject& parent)
+TimerMirror::TimerMirror(controls::Timer& control, controls::OpenBoxes& boxes, QObject& parent)
     : QObject(&parent), control_(control), boxes_(boxes) {
   setObjectName(QString::fromStdString(control.name()));
   timer_.setSingleShot(true);

@@ -5,8 +5,8 @@
 #include <QObject>
 #include <QTimer>
 
+#include "core/controls/open_boxes.h"
 #include "core/controls/timer.h"
-#include "ui/qt/mirror/open_boxes.h"
 
 namespace zelvane::qt {
 
@@ -16,14 +16,14 @@ namespace zelvane::qt {
 // that handler switched the timer off and on.
 class TimerMirror : public QObject {
  public:
-  TimerMirror(controls::Timer& control, OpenBoxes& boxes, QObject& parent);
+  TimerMirror(controls::Timer& control, controls::OpenBoxes& boxes, QObject& parent);
 
  private:
   void restart();
   void expire();
 
   controls::Timer& control_;
-  const OpenBoxes& boxes_;
+  const controls::OpenBoxes& boxes_;
   QTimer timer_;
   QElapsedTimer waited_;
 };

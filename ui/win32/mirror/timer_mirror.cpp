@@ -10,7 +10,7 @@ constexpr UINT_PTR kTimer = 1;
 
 }  // namespace
 
-TimerMirror::TimerMirror(controls::Timer& control, OpenBoxes& boxes, Pane& parent)
+TimerMirror::TimerMirror(controls::Timer& control, controls::OpenBoxes& boxes, Pane& parent)
     : Window({kPaneClass, 0}, HWND_MESSAGE, parent.look()), control_(control), boxes_(boxes) {
   setControl(control);
   boxes.allClosed.connect([this, window = handle()] {

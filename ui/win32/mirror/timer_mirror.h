@@ -3,8 +3,8 @@
 
 #include <chrono>
 
+#include "core/controls/open_boxes.h"
 #include "core/controls/timer.h"
-#include "ui/win32/mirror/open_boxes.h"
 #include "ui/win32/mirror/pane.h"
 
 namespace zelvane::win32 {
@@ -16,7 +16,7 @@ namespace zelvane::win32 {
 class TimerMirror : public Window {
  public:
   // The pane owns it; nothing of it is seen.
-  TimerMirror(controls::Timer& control, OpenBoxes& boxes, Pane& parent);
+  TimerMirror(controls::Timer& control, controls::OpenBoxes& boxes, Pane& parent);
 
  protected:
   LRESULT onMessage(UINT message, WPARAM word, LPARAM value) override;
@@ -29,7 +29,7 @@ class TimerMirror : public Window {
   void waitFor(Clock::duration time);
 
   controls::Timer& control_;
-  const OpenBoxes& boxes_;
+  const controls::OpenBoxes& boxes_;
   Clock::time_point due_;
   bool waiting_ = false;
 };

@@ -3,14 +3,14 @@
 
 #include "core/controls/event.h"
 
-namespace zelvane::qt {
+namespace zelvane::controls {
 
 class OpenBoxes {
  public:
   bool any() const { return count_ > 0; }
 
   // The last one was closed.
-  controls::Event<> allClosed;
+  Event<> allClosed;
 
   // A box is open as long as this lives.
   class Opening {
@@ -32,4 +32,4 @@ class OpenBoxes {
   int count_ = 0;
 };
 
-}  // namespace zelvane::qt
+}  // namespace zelvane::controls
