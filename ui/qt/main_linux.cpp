@@ -25,9 +25,8 @@
 #include "ui/qt/qt_event_pump.h"
 #include "ui/qt/qt_window_commands.h"
 
+namespace zelvane {
 namespace {
-
-using namespace zelvane;
 
 // The ports of a Linux desktop, in the order in which they stand on each other.
 struct LinuxDesktop {
@@ -71,9 +70,7 @@ struct LinuxDesktop {
   }
 };
 
-}  // namespace
-
-int main(int, char** arguments) {
+int run(char** arguments) {
   // The toolkit is given the program's name alone: no argument is ever read.
   int count = 1;
   qt::Application application(count, arguments);
@@ -89,3 +86,8 @@ int main(int, char** arguments) {
   main_window::GenFunc::Main(ports, window);
   return qt::Application::exec();
 }
+
+}  // namespace
+}  // namespace zelvane
+
+int main(int, char** arguments) { return zelvane::run(arguments); }

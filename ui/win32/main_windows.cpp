@@ -25,9 +25,8 @@
 #include "ui/win32/win32_event_pump.h"
 #include "ui/win32/win32_window_commands.h"
 
+namespace zelvane {
 namespace {
-
-using namespace zelvane;
 
 // The ports of a Windows desktop, in the order in which they stand on each other.
 struct WindowsDesktop {
@@ -76,10 +75,7 @@ struct WindowsDesktop {
   }
 };
 
-}  // namespace
-
-// No argument is ever read.
-int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
+int run() {
   OleInitialize(nullptr);  // the shell's own dialogs need it, and what screen readers ask
   controls::OpenBoxes boxes;
   WindowsDesktop desktop(boxes);
@@ -93,3 +89,9 @@ int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) {
   win32::runMessageLoop();
   return 0;
 }
+
+}  // namespace
+}  // namespace zelvane
+
+// No argument is ever read.
+int WINAPI wWinMain(HINSTANCE, HINSTANCE, wchar_t*, int) { return zelvane::run(); }
