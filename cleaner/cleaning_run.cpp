@@ -1,8 +1,11 @@
 #include "cleaner/cleaning_run.h"
 
+#include "cleaner/left_notice.h"
 #include "core/text.h"
 #include "platform/clock.h"
 #include "platform/event_pump.h"
+#include "platform/left_traces.h"
+#include "platform/notifications.h"
 #include "platform/window_commands.h"
 
 namespace zelvane::cleaner {
@@ -28,6 +31,7 @@ void CleaningRun::cmdBasicClean_Click() {
     begin();
     performTickedTasks();
     finish();
+    tellWhatIsLeft();
   });
 }
 
@@ -62,6 +66,15 @@ void CleaningRun::finish() {
   around_.lblStatus.setCaption("Ready");
   // One second from now it stores the time of this run and arms the schedule again.
   around_.tmrMakeScehduleEnable.setEnabled(true);
+}
+
+// The log has its fixed lines. A browser that was open while it was to be cleaned is the one thing
+// that its user can do something about.
+void CleaningRun::tellWhatIsLeft() {
+  const std::vector<platform::LeftTrace> left = desktop_.leftTraces.take();
+  if (!left.empty()) {
+    core::ignoringErrors([&] { desktop_.notifications.show("Zelvane", noticeOf(left)); });
+  }
 }
 
 }  // namespace zelvane::cleaner

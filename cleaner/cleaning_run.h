@@ -42,6 +42,7 @@ class CleaningRun {
   void begin();
   void performTickedTasks();
   void finish();
+  void tellWhatIsLeft();
 
   CleanerPage& page_;
   RunSurroundings around_;

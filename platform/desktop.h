@@ -10,6 +10,8 @@ class EventPump;
 class Files;
 class FolderTree;
 class Identity;
+class LeftTraces;
+class Notifications;
 class ProcessEnd;
 class ProfileFile;
 class RecycleBin;
@@ -35,6 +37,8 @@ struct Desktop {
   EventPump& pump;
   SingleInstance& instance;
   ProcessEnd& process;
+  Notifications& notifications;
+  LeftTraces& leftTraces;
 };
 
 }  // namespace zelvane::platform

@@ -1,10 +1,14 @@
 # shellcheck shell=bash
 # Configures and builds a preset. To be sourced in the project's root.
+source scripts/windows_libraries.sh
 
 # Kept in the project, so that building leaves nothing in the user's home.
 export CCACHE_DIR=${CCACHE_DIR:-$PWD/build/ccache}
 
 configurePreset() {
+  if [[ $1 == windows* ]]; then
+    ensureWindowsLibraries || return
+  fi
   cmake --preset "$1" --log-level=NOTICE
 }
 

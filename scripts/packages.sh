@@ -6,13 +6,16 @@
 packageList() {
   cat <<'END'
 build         g++                 command:g++                        compiles C++20
-build         cmake               command:cmake                      describes the build
-build         ninja-build         command:ninja                      runs it
+build,package cmake               command:cmake                      describes the build
+build,package ninja-build         command:ninja                      runs it
 build         qt6-base-dev        lib:cmake/Qt6Widgets               the window, and Qt D-Bus
 build         qt6-svg-dev         lib:cmake/Qt6Svg                   draws the program's icon
 build         libqt6svg6          lib:libQt6Svg.so.6                 lets Qt load that icon
 build         libxcb1-dev         header:xcb/xcb.h                   takes a clipboard from its owner
-build         nlohmann-json3-dev  header:nlohmann/json.hpp           reads and writes JSON
+build         libleveldb-dev      header:leveldb/db.h                edits the sites' storage of browsers
+build         libsnappy-dev       header:snappy.h                    what that library packs with
+build         libsqlite3-dev      header:sqlite3.h                   edits the databases of browsers
+build,windows,package nlohmann-json3-dev  header:nlohmann/json.hpp   reads and writes JSON
 build         fonts-dejavu-core   file:/usr/share/fonts/*            letters, which a small system lacks
 display       xvfb                command:Xvfb                       a display without a screen
 display       xauth               command:xauth                      closes it to everyone else
@@ -24,7 +27,7 @@ display       dbus-x11            command:dbus-launch                tells progr
 display       at-spi2-core        file:/usr/share/dbus-1/services/org.a11y.Bus.service  presses buttons
 display       gir1.2-atspi-2.0    lib:girepository-1.0/Atspi-2.0.typelib                the same, for scripts
 display       python3-gi          lib:python3*/*-packages/gi         the same, for Python
-display,check,bench python3       file:/usr/bin/python3              drives the window; counts the tests
+display,check,bench,package python3  file:/usr/bin/python3           drives the window; counts the tests; packs
 display       imagemagick         command:import                     takes screenshots
 display       procps              command:ps                         sees which programs run
 display       file                command:file                       says what a screenshot is
@@ -36,11 +39,21 @@ check         googletest          header:gtest/gtest.h               the tests' 
 check         libgtest-dev        header:gtest/gtest.h               its headers
 check         ccache              command:ccache                     compiles nothing twice
 check         git                 command:git                        says which files have changed
-windows       g++-mingw-w64-x86-64-posix  command:x86_64-w64-mingw32-g++-posix  compiles for Windows
-windows       mingw-w64-x86-64-dev        file:/usr/x86_64-w64-mingw32/include/windows.h  its headers and libraries
+windows,package g++-mingw-w64-x86-64-posix  command:x86_64-w64-mingw32-g++-posix  compiles for Windows
+windows,package mingw-w64-x86-64-dev        file:/usr/x86_64-w64-mingw32/include/windows.h  its headers and libraries
+windows,package dpkg-dev          command:dpkg-source                unpacks the sources of libraries for Windows
+windows,package make              command:make                       puts that of SQLite together
+windows,package tcl8.6            command:tclsh8.6                   the same
+windows,package gcc               command:gcc                        the same
 windows       wine                command:wine                       runs Windows' programs
 windows       wine64              file:/usr/lib/wine/wine64          the same, those of 64 bits
 windows       fonts-wine          file:/usr/share/wine/fonts/tahoma.ttf  letters as wide as Windows' own
+browsers      firefox-esr         command:firefox-esr                a real browser
+browsers      chromium            command:chromium                   a real browser of the other family
+browsers      python3-brotli      lib:python3*/*-packages/brotli*    unpacks what browsers have packed
+browsers      python3-lz4         lib:python3*/*-packages/lz4        the same
+browsers      python3-snappy      lib:python3*/*-packages/snappy*    the same
+browsers      python3-zstandard   lib:python3*/*-packages/zstandard  the same
 abroad        locales             file:/usr/share/i18n/locales/tr_TR  how other languages write
 abroad        tzdata              file:/usr/share/zoneinfo/Australia/Lord_Howe  what time it is elsewhere
 asan,tidy     clang-14            command:clang++-14                 builds for the sanitizers and for clang-tidy

@@ -17,12 +17,17 @@ openSandbox() {
     # Root's checkout may lie where no other user can look, as in root's home.
     project=$sandbox/project
     chmod 711 "$sandbox"
-    mkdir "$project"
-    tar --exclude=./build --exclude=./.git -cf - . | tar -xf - -C "$project" --no-same-owner
+    copySources "$project"
     chmod -R go=rX "$project"
     useradd --system --home-dir /nonexistent --shell /usr/sbin/nologin "zelvane-$$"
     tester=zelvane-$$
   fi
+}
+
+# copySources FOLDER: the project as it stands, without what was built, into a folder that is made.
+copySources() {
+  mkdir "$1"
+  tar --exclude=./build --exclude=./.git -cf - . | tar -xf - -C "$1" --no-same-owner
 }
 
 # offerBuild PRESET: puts the programs of a build where the tester finds them, in $project/build/PRESET.

@@ -10,7 +10,12 @@ set(CMAKE_EXE_LINKER_FLAGS_INIT -static)
 set(CMAKE_MODULE_LINKER_FLAGS_INIT -static)
 
 # Libraries and headers of Windows alone, never this system's; programs that run at build time are its.
+# scripts/windows_libraries.sh makes those that the distribution has not for Windows.
 set(CMAKE_FIND_ROOT_PATH /usr/x86_64-w64-mingw32)
+foreach(library IN ITEMS leveldb nlohmann-json3 snappy sqlite3)
+  list(APPEND CMAKE_FIND_ROOT_PATH
+       ${CMAKE_CURRENT_LIST_DIR}/../../build/windows-libraries/current/${library})
+endforeach()
 set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)

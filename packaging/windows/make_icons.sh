@@ -6,7 +6,7 @@
 set -euo pipefail
 cd "$(dirname "$0")"
 
-sizes=(16 20 24 32 40 48 60 72 96 256)
+sizes=(16 20 24 32 40 48 60 64 72 96 128 256)
 pieces=$(mktemp -d)
 trap 'rm -rf "$pieces"' EXIT
 

@@ -25,19 +25,27 @@ using std::chrono::milliseconds;
 constexpr auto kHonestFileSystems = std::to_array<std::int64_t>(
     {EXT4_SUPER_MAGIC, TMPFS_MAGIC, XFS_SUPER_MAGIC, BTRFS_SUPER_MAGIC, F2FS_SUPER_MAGIC});
 
-// What is common to the folders of one erasure.
-struct Erasure {
-  Erasure(const GuardedFolder& root, milliseconds trust) {
-    if (std::ranges::count(kHonestFileSystems, root.fileSystem()) > 0) listingIsGood = trust;
-  }
-
-  OpenFilesSnapshot inUse;
-  milliseconds listingIsGood{0};
-};
-
 bool isHidden(std::string_view name) { return name.starts_with('.'); }
 
 bool isOrdinary(EntryKind kind) { return kind == EntryKind::file || kind == EntryKind::link; }
+
+// What is common to the folders of one erasure.
+struct Erasure {
+  Erasure(const GuardedFolder& root, const LinuxFolderTree::Options& options)
+      : listsHiddenFiles(options.listsHiddenFiles) {
+    if (std::ranges::count(kHonestFileSystems, root.fileSystem()) > 0) {
+      listingIsGood = options.listingIsGood;
+    }
+  }
+
+  bool lists(const Entry& entry) const {
+    return isOrdinary(entry.kind) && (listsHiddenFiles || !isHidden(entry.name));
+  }
+
+  OpenFilesSnapshot inUse;
+  bool listsHiddenFiles;
+  milliseconds listingIsGood{0};
+};
 
 // By the clock that the kernel updates at its ticks, which costs nothing to read.
 milliseconds now() {
@@ -66,7 +74,7 @@ class LinuxOpenFolder : public OpenFolder {
           continue;
         }
         allFree = allFree && isOrdinary(entry.kind) && !erasure_.inUse.containsInode(entry.inode);
-        if (isOrdinary(entry.kind) && !isHidden(entry.name)) listing.files.add(entry.name);
+        if (erasure_.lists(entry)) listing.files.add(entry.name);
       }
       pump.doEvents();
     });
@@ -108,7 +116,7 @@ class LinuxOpenFolder : public OpenFolder {
 
 std::unique_ptr<OpenFolder> LinuxFolderTree::openRoot(const std::string& path) {
   std::unique_ptr<GuardedFolder> folder = GuardedFolder::openRoot(path, options_.way);
-  auto erasure = std::make_unique<const Erasure>(*folder, options_.listingIsGood);
+  auto erasure = std::make_unique<const Erasure>(*folder, options_);
   return std::make_unique<LinuxOpenFolder>(std::move(folder), std::move(erasure));
 }
 

@@ -14,9 +14,11 @@ namespace zelvane::platform {
 class LinuxFolderTree : public FolderTree {
  public:
   struct Options {
-    GuardedFolder::Options way;
+    GuardedFolder::Options way = {};
     // How long after a listing its files are deleted without another look at each of them.
     std::chrono::milliseconds listingIsGood{100};
+    // For folders that belong to one program whole, whose hidden files are nobody else's.
+    bool listsHiddenFiles = false;
   };
 
   LinuxFolderTree() = default;

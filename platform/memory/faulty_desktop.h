@@ -53,7 +53,9 @@ struct FaultyDesktop {
             .window = memory.window,
             .pump = memory.pump,
             .instance = memory.instance,
-            .process = memory.process};
+            .process = memory.process,
+            .notifications = memory.notifications,
+            .leftTraces = memory.leftTraces};
   }
 };
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/desktop.h"
+#include "platform/left_traces.h"
 #include "platform/memory/memory_clipboard.h"
 #include "platform/memory/memory_clock.h"
 #include "platform/memory/memory_dialogs.h"
@@ -10,6 +11,7 @@
 #include "platform/memory/memory_files.h"
 #include "platform/memory/memory_folder_tree.h"
 #include "platform/memory/memory_identity.h"
+#include "platform/memory/memory_notifications.h"
 #include "platform/memory/memory_process_end.h"
 #include "platform/memory/memory_profile_file.h"
 #include "platform/memory/memory_recycle_bin.h"
@@ -50,6 +52,8 @@ struct MemoryDesktop {
   MemoryEventPump pump;
   MemorySingleInstance instance;
   MemoryProcessEnd process;
+  MemoryNotifications notifications;
+  LeftTraces leftTraces;
 
   // They live as long as this desktop.
   Desktop ports() {
@@ -67,7 +71,9 @@ struct MemoryDesktop {
             .window = window,
             .pump = pump,
             .instance = instance,
-            .process = process};
+            .process = process,
+            .notifications = notifications,
+            .leftTraces = leftTraces};
   }
 };
 

@@ -35,7 +35,7 @@ class LiveOpenFolder : public OpenFolder {
   std::unique_ptr<OpenFolder> openSubfolder(const std::string& name) override {
     LiveFolder::Entry* entry = find(name);
     if (entry == nullptr) throw Error(ErrorNumber::pathNotFound);
-    if (const auto* path = std::get_if<std::string>(&entry->what)) return tree_.openRoot(*path);
+    if (const auto* open = std::get_if<LiveFolder::Opener>(&entry->what)) return (*open)(tree_);
     if (const auto* folder = std::get_if<std::unique_ptr<LiveFolder>>(&entry->what)) {
       return (*folder)->open(tree_);
     }
@@ -77,7 +77,11 @@ LiveFolder& LiveFolder::addSubfolder(const std::string& name) {
 }
 
 void LiveFolder::addRealFolder(const std::string& name, const std::string& path) {
-  entries_.push_back({freeName(name), path});
+  addFolder(name, [path](FolderTree& tree) { return tree.openRoot(path); });
+}
+
+void LiveFolder::addFolder(const std::string& name, Opener open) {
+  entries_.push_back({freeName(name), std::move(open)});
 }
 
 std::unique_ptr<OpenFolder> LiveFolder::open(FolderTree& tree) {

@@ -1,6 +1,7 @@
 // A folder that is put together from what other programs keep, for the one erasure to walk through.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <variant>
@@ -39,6 +40,11 @@ class LiveFolder {
   // A folder on the disk, whose content is erased as anywhere. It survives its own removal, too.
   void addRealFolder(const std::string& name, const std::string& path);
 
+  // The same for one that is opened in another way, such as one of whose content only a part is
+  // shown.
+  using Opener = std::function<std::unique_ptr<OpenFolder>(FolderTree& tree)>;
+  void addFolder(const std::string& name, Opener open);
+
   bool isEmpty() const { return entries_.empty(); }
 
   // The folder as the erasure sees it. Real folders are opened in `tree`. All three outlive it.
@@ -49,7 +55,7 @@ class LiveFolder {
 
   struct Entry {
     std::string name;
-    std::variant<std::unique_ptr<LiveStore>, std::unique_ptr<LiveFolder>, std::string> what;
+    std::variant<std::unique_ptr<LiveStore>, std::unique_ptr<LiveFolder>, Opener> what;
   };
 
   std::string freeName(std::string name) const;

@@ -1,42 +1,22 @@
 #include "platform/windows/whole_file.h"
 
-#include <memory>
+#include <utility>
 
 #include <windows.h>
 
+#include "platform/windows/file_place.h"
+#include "platform/windows/handle.h"
+#include "platform/windows/long_path.h"
 #include "platform/windows/system_error.h"
+#include "platform/windows/windows_pending_file.h"
 
 namespace zelvane::platform {
-namespace {
 
-struct CloseFile {
-  using pointer = HANDLE;
-  void operator()(HANDLE file) const { CloseHandle(file); }
-};
-using File = std::unique_ptr<HANDLE, CloseFile>;
-
-File openFile(const std::wstring& path, DWORD access, DWORD share, DWORD disposition) {
-  const HANDLE file = CreateFileW(path.c_str(), access, share, nullptr, disposition,
-                                  FILE_ATTRIBUTE_NORMAL | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
-  return File(file == INVALID_HANDLE_VALUE ? nullptr : file);
-}
-
-void writeNew(const std::wstring& path, std::string_view content) {
-  const File file = openFile(path, GENERIC_WRITE, 0, CREATE_NEW);
-  if (!file) throwSystemError();
-  DWORD written = 0;
-  const auto size = static_cast<DWORD>(content.size());
-  if (WriteFile(file.get(), content.data(), size, &written, nullptr) == 0) throwSystemError();
-  if (written != size) throw Error(ErrorNumber::diskFull);
-  if (FlushFileBuffers(file.get()) == 0) throwSystemError();
-}
-
-}  // namespace
-
-std::optional<std::string> readWholeFile(const std::wstring& path) {
-  const File file = openFile(path, GENERIC_READ,
-                             FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, OPEN_EXISTING);
-  if (!file) {
+std::optional<std::string> readWholeFile(const std::string& path) {
+  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  const Handle file(CreateFileW(longPath(path).c_str(), GENERIC_READ, kShareAll, nullptr,
+                                OPEN_EXISTING, FILE_FLAG_OPEN_REPARSE_POINT, nullptr));
+  if (!file.isOpen()) {
     const DWORD code = GetLastError();
     if (code == ERROR_FILE_NOT_FOUND || code == ERROR_PATH_NOT_FOUND) return std::nullopt;
     throw errorFor(code);
@@ -56,18 +36,12 @@ std::optional<std::string> readWholeFile(const std::wstring& path) {
   return content;
 }
 
-void replaceWholeFile(const std::wstring& path, std::string_view content) {
-  const std::wstring beside = path + L".zelvane-" + std::to_wstring(GetCurrentProcessId());
-  // What an earlier process of this number left when it was killed.
-  DeleteFileW(beside.c_str());
-  try {
-    writeNew(beside, content);
-    const DWORD how = MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH;
-    if (MoveFileExW(beside.c_str(), path.c_str(), how) == 0) throwSystemError();
-  } catch (const Error&) {
-    DeleteFileW(beside.c_str());
-    throw;
-  }
+void replaceWholeFile(const std::string& path, std::string_view content) {
+  FilePlace place = placeOf(path);
+  WindowsPendingFile file(std::move(place.folder), std::move(place.name),
+                          WindowsPendingFile::Rights::ofFolder);
+  file.write(content);
+  file.publish();
 }
 
 }  // namespace zelvane::platform

@@ -9,6 +9,7 @@
 #include "platform/shared/read_to_end.h"
 #include "platform/windows/deletion.h"
 #include "platform/windows/entry_kind.h"
+#include "platform/windows/file_place.h"
 #include "platform/windows/handle.h"
 #include "platform/windows/long_path.h"
 #include "platform/windows/open_within.h"
@@ -42,24 +43,6 @@ Handle openForReading(const std::string& path) {
   if (!file.isOpen()) throwForFile();
   if (!isFile(file.get())) throw Error(ErrorNumber::accessError);
   return file;
-}
-
-struct Place {
-  Handle folder;
-  std::wstring name;
-};
-
-// The folder that a path names, opened, and the name in it.
-Place placeOf(const std::string& path) {
-  const std::size_t separator = path.find_last_of("/\\");
-  const std::size_t start = separator == std::string::npos ? 0 : separator + 1;
-  std::wstring name = singleName(path.substr(start));
-  Handle folder = openAny(start == 0 ? "." : path.substr(0, start), FILE_READ_ATTRIBUTES);
-  if (!folder.isOpen()) {
-    const Error error = errorFor(GetLastError());
-    throw error.number() == ErrorNumber::fileNotFound ? Error(ErrorNumber::pathNotFound) : error;
-  }
-  return {std::move(folder), std::move(name)};
 }
 
 class WindowsReadStream : public ReadStream {
@@ -104,7 +87,7 @@ std::string WindowsFiles::readWhole(const std::string& path, std::uint64_t limit
 }
 
 void WindowsFiles::remove(const std::string& path) {
-  const Place place = placeOf(path);
+  const FilePlace place = placeOf(path);
   const Handle entry = openToDelete(
       [&](DWORD access) { return openWithin(place.folder.get(), place.name, {.access = access}); });
   if (!entry.isOpen()) throwForFile();
@@ -120,7 +103,7 @@ void WindowsFiles::remove(const std::string& path) {
 }
 
 std::unique_ptr<PendingFile> WindowsFiles::createBeside(const std::string& target) {
-  Place place = placeOf(target);
+  FilePlace place = placeOf(target);
   return std::make_unique<WindowsPendingFile>(std::move(place.folder), std::move(place.name));
 }
 

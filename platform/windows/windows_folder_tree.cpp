@@ -14,7 +14,7 @@ bool isHidden(DWORD attributes) {
   return (attributes & (FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM)) != 0;
 }
 
-void add(const Entry& entry, FolderListing& listing) {
+void add(const Entry& entry, bool listsHiddenFiles, FolderListing& listing) {
   switch (entry.facts.kind) {
     case EntryKind::folder:
     case EntryKind::place:
@@ -22,7 +22,9 @@ void add(const Entry& entry, FolderListing& listing) {
       break;
     case EntryKind::file:
     case EntryKind::link:
-      if (!isHidden(entry.facts.attributes)) listing.files.add(plainText(entry.name));
+      if (listsHiddenFiles || !isHidden(entry.facts.attributes)) {
+        listing.files.add(plainText(entry.name));
+      }
       break;
     case EntryKind::other:
       break;
@@ -31,19 +33,20 @@ void add(const Entry& entry, FolderListing& listing) {
 
 class WindowsOpenFolder : public OpenFolder {
  public:
-  explicit WindowsOpenFolder(std::unique_ptr<HeldFolder> folder) : folder_(std::move(folder)) {}
+  WindowsOpenFolder(std::unique_ptr<HeldFolder> folder, bool listsHiddenFiles)
+      : folder_(std::move(folder)), listsHiddenFiles_(listsHiddenFiles) {}
 
   FolderListing list(EventPump& pump) override {
     FolderListing listing;
     folder_->read([&](std::span<const Entry> piece) {
-      for (const Entry& entry : piece) add(entry, listing);
+      for (const Entry& entry : piece) add(entry, listsHiddenFiles_, listing);
       pump.doEvents();
     });
     return listing;
   }
 
   std::unique_ptr<OpenFolder> openSubfolder(const std::string& name) override {
-    return std::make_unique<WindowsOpenFolder>(folder_->openSubfolder(name));
+    return std::make_unique<WindowsOpenFolder>(folder_->openSubfolder(name), listsHiddenFiles_);
   }
 
   void removeFile(const std::string& name) override { folder_->removeFile(name); }
@@ -51,16 +54,16 @@ class WindowsOpenFolder : public OpenFolder {
 
  private:
   std::unique_ptr<HeldFolder> folder_;
+  bool listsHiddenFiles_;
 };
 
 }  // namespace
 
-WindowsFolderTree::Options WindowsFolderTree::usualOptions() {
-  return {.comparePaths = followsUnixLinks()};
-}
+HeldFolder::Options WindowsFolderTree::usualWay() { return {.comparePaths = followsUnixLinks()}; }
 
 std::unique_ptr<OpenFolder> WindowsFolderTree::openRoot(const std::string& path) {
-  return std::make_unique<WindowsOpenFolder>(HeldFolder::openRoot(path, options_));
+  return std::make_unique<WindowsOpenFolder>(HeldFolder::openRoot(path, options_.way),
+                                             options_.listsHiddenFiles);
 }
 
 }  // namespace zelvane::platform

@@ -11,12 +11,17 @@ namespace zelvane::platform {
 // open, also one that would let others delete it.
 class WindowsFolderTree : public FolderTree {
  public:
-  using Options = HeldFolder::Options;
+  struct Options {
+    HeldFolder::Options way = {};
+    // For folders that belong to one program whole, whose hidden files are nobody else's.
+    bool listsHiddenFiles = false;
+  };
 
   // As the system that it runs on needs it.
-  static Options usualOptions();
+  static HeldFolder::Options usualWay();
 
-  explicit WindowsFolderTree(Options options = usualOptions()) : options_(options) {}
+  WindowsFolderTree() : WindowsFolderTree({.way = usualWay()}) {}
+  explicit WindowsFolderTree(Options options) : options_(options) {}
 
   std::unique_ptr<OpenFolder> openRoot(const std::string& path) override;
 

@@ -27,9 +27,9 @@ std::wstring randomName() {
 
 }  // namespace
 
-WindowsPendingFile::WindowsPendingFile(Handle folder, std::wstring name)
+WindowsPendingFile::WindowsPendingFile(Handle folder, std::wstring name, Rights rights)
     : folder_(std::move(folder)), name_(std::move(name)) {
-  const Access access = privateAccess();
+  const Access access = rights == Rights::ofUserAlone ? privateAccess() : Access();
   file_ = createWithin(folder_.get(), randomName(),
                        {.access = GENERIC_WRITE | DELETE | FILE_READ_ATTRIBUTES, .share = 0},
                        access.get());

@@ -36,19 +36,19 @@ std::string contentOf(std::string_view text, bool wide) {
   return content;
 }
 
-std::wstring systemsFolder() {
+std::string systemsFolder() {
   std::array<wchar_t, MAX_PATH + 1> path{};
   const UINT length = GetSystemWindowsDirectoryW(path.data(), static_cast<UINT>(path.size()));
   if (length == 0 || length >= path.size()) throwSystemError();
-  return {path.data(), length};
+  return plainText({path.data(), length});
 }
 
 }  // namespace
 
 WindowsProfileFile::WindowsProfileFile()
-    : path_(systemsFolder() + L"\\win.ini"), systemsName_(L"win.ini") {}
+    : path_(systemsFolder() + "\\win.ini"), systemsName_(L"win.ini") {}
 
-WindowsProfileFile::WindowsProfileFile(const std::string& path) : path_(wideName(path)) {}
+WindowsProfileFile::WindowsProfileFile(const std::string& path) : path_(path) {}
 
 bool WindowsProfileFile::isTheSystems(const std::string& section) const {
   return !systemsName_.empty() && isKeptInRegistry(systemsName_, section);

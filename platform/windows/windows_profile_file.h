@@ -28,7 +28,7 @@ class WindowsProfileFile : public ProfileFile {
  private:
   bool isTheSystems(const std::string& section) const;
 
-  std::wstring path_;
+  std::string path_;
   std::wstring systemsName_;  // empty for another file
 };
 

@@ -5,6 +5,7 @@
 
 #include <shlobj.h>
 
+#include "platform/windows/final_path.h"
 #include "platform/windows/handle.h"
 #include "platform/windows/long_path.h"
 #include "platform/windows/wide_text.h"
@@ -54,12 +55,7 @@ bool isSame(const BY_HANDLE_FILE_INFORMATION& one, const BY_HANDLE_FILE_INFORMAT
 std::wstring realPath(const std::wstring& path) {
   const Handle folder(CreateFileW(path.c_str(), FILE_READ_ATTRIBUTES, kShareAll, nullptr,
                                   OPEN_EXISTING, FILE_FLAG_BACKUP_SEMANTICS, nullptr));
-  std::wstring real(GetFinalPathNameByHandleW(folder.get(), nullptr, 0, 0), L'\0');
-  const DWORD length =
-      GetFinalPathNameByHandleW(folder.get(), real.data(), static_cast<DWORD>(real.size()), 0);
-  if (length == 0 || length >= real.size()) return path;
-  real.resize(length);
-  return real;
+  return finalPath(folder.get()).value_or(path);
 }
 
 // Each folder above `path`, and itself, compared as folders and not as texts: a link, another

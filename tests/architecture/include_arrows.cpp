@@ -31,6 +31,7 @@ constexpr auto kTable = std::to_array<Row>({
     {"platform/memory", "platform platform/shared"},
     {"platform/shared", "platform", Outside::libraries},
     {"platform/shared/age", "platform platform/shared", Outside::libraries},
+    {"platform/shared/browsers", "platform platform/shared", Outside::libraries},
     {"platform/shared/zip", "platform platform/shared", Outside::libraries},
     {"platform/linux", "platform platform/shared/*", Outside::system},
     {"platform/windows", "platform platform/shared/*", Outside::system},
@@ -79,7 +80,7 @@ bool isWindowlessQt(std::string_view header) {
 
 bool isSmallLibrary(std::string_view header) {
   static constexpr auto kLibraries = std::to_array<std::string_view>(
-      {"nlohmann/", "openssl/", "sqlite3.h", "libdeflate.h", "zip.h", "zlib.h"});
+      {"leveldb/", "nlohmann/", "openssl/", "sqlite3.h", "libdeflate.h", "zip.h", "zlib.h"});
   return std::ranges::any_of(kLibraries,
                              [&](std::string_view library) { return header.starts_with(library); });
 }

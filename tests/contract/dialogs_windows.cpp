@@ -4,8 +4,6 @@
 #include <string_view>
 
 #include <windows.h>
-
-// These need the header above before them.
 #include <commctrl.h>
 #include <ole2.h>
 #include <shlobj.h>

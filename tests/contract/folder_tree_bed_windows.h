@@ -7,27 +7,15 @@
 #include "platform/windows/windows_folder_tree.h"
 #include "tests/contract/folder_tree_contract.h"
 #include "tests/support/throw_away_folder.h"
+#include "tests/support/windows/disk.h"
 
 namespace zelvane::test {
 
-// Any path may be long, and end in names that the system usually changes.
-void makeFolders(const std::string& path);
-void makeFile(const std::string& path, const std::string& content = "content");
-void makeLink(const std::string& path, const std::string& target);
-bool isThere(const std::string& path);
-
-// Attributes as the system counts them.
-void setAttributes(const std::string& path, DWORD attributes);
-DWORD attributesOf(const std::string& path);
-
-// Nobody may do anything with it any more but give rights back.
-void denyEverything(const std::string& path);
-
 class WindowsFolderTreeBed : public FolderTreeBed {
  public:
-  using Options = platform::WindowsFolderTree::Options;
+  using Way = platform::HeldFolder::Options;
 
-  explicit WindowsFolderTreeBed(Options options = platform::WindowsFolderTree::usualOptions());
+  explicit WindowsFolderTreeBed(Way way = platform::WindowsFolderTree::usualWay());
 
   platform::FolderTree& tree() override { return tree_; }
   std::string root() const override { return folder / "root"; }

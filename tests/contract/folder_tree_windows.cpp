@@ -17,6 +17,7 @@ namespace {
 using platform::EntryKind;
 using platform::Error;
 using platform::Handle;
+using platform::HeldFolder;
 using platform::kindOf;
 using platform::longPath;
 using platform::WindowsFolderTree;
@@ -27,10 +28,10 @@ INSTANTIATE_TEST_SUITE_P(Windows, FolderTreeContract,
                            return std::make_unique<WindowsFolderTreeBed>();
                          }));
 
-WindowsFolderTree::Options fewHandles() {
-  WindowsFolderTree::Options options = WindowsFolderTree::usualOptions();
-  options.mostHandles = 3;
-  return options;
+HeldFolder::Options fewHandles() {
+  HeldFolder::Options way = WindowsFolderTree::usualWay();
+  way.mostHandles = 3;
+  return way;
 }
 
 INSTANTIATE_TEST_SUITE_P(WindowsWithFewHandles, FolderTreeContract,
@@ -166,6 +167,19 @@ TEST(WindowsFolderTree, HiddenAndSystemFilesAreNotListedAndReadOnlyOnesAre) {
   }
 
   EXPECT_EQ(listOf(*bed.tree().openRoot(bed.root())).files, Names{"readonly"});
+}
+
+TEST(WindowsFolderTree, OneForAProgramsOwnFoldersListsHiddenAndSystemFilesToo) {
+  WindowsFolderTreeBed bed;
+  bed.addFile("ordinary");
+  bed.addFile("hidden");
+  setAttributes(bed.path("hidden"), FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+  WindowsFolderTree whole({.way = WindowsFolderTree::usualWay(), .listsHiddenFiles = true});
+
+  const Names files = listOf(*whole.openRoot(bed.root())).files;
+
+  EXPECT_EQ(std::set<std::string>(files.begin(), files.end()),
+            (std::set<std::string>{"hidden", "ordinary"}));
 }
 
 TEST(WindowsFolderTree, AReadOnlyFileThatStaysIsReadOnlyStill) {

@@ -10,6 +10,8 @@ namespace zelvane::test {
 
 class Win32MirrorTest : public testing::Test {
  protected:
+  Win32MirrorTest() { window.finish(); }
+
   struct Count {
     explicit Count(controls::Event<>& event) {
       event.connect([this] { ++times; });

@@ -1,7 +1,5 @@
 // The coloured log on the screen.
 #include <windows.h>
-
-// These need the header above before them.
 #include <richedit.h>
 
 #include "tests/contract/mirror_bed_windows.h"

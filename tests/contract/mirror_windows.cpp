@@ -2,8 +2,6 @@
 #include <chrono>
 
 #include <windows.h>
-
-// These need the header above before them.
 #include <commctrl.h>
 
 #include "tests/contract/mirror_bed_windows.h"
@@ -216,6 +214,24 @@ TEST_F(Win32MirrorTest, ALinkIsClickedWithMouseAndKeyboard) {
   send(link, WM_KEYUP, VK_SPACE);
 
   EXPECT_EQ(clicks.times, 2);
+}
+
+TEST_F(Win32MirrorTest, FieldsThatStandBelowEachOtherAreOfOneHeight) {
+  controls::TextBox text(page, "txtHours", "2");
+  controls::ComboBox choice(page, "cmbDays", {"Monday", "Tuesday"});
+  controls::DatePicker day(page, "dtpScheduleDate", controls::DatePicker::Kind::date);
+  auto& textWindow = make<win32::TextBoxWindow>(text);
+  auto& choiceWindow = make<win32::ComboBoxWindow>(choice);
+  auto& dayWindow = make<win32::DatePickerWindow>(day);
+
+  for (const UINT dpi : {192U, 96U}) {
+    look.setDpi(dpi);
+    window.onLookChanged();
+
+    const int height = textWindow.natural().height;
+    EXPECT_EQ(choiceWindow.natural().height, height) << dpi;
+    EXPECT_EQ(dayWindow.natural().height, height) << dpi;
+  }
 }
 
 TEST_F(Win32MirrorTest, APickerFollowsBothWaysAndMayBeEmpty) {

@@ -1,14 +1,21 @@
+#include <cstddef>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
+#include <windows.h>
+#include <sddl.h>
+
+#include "platform/windows/private_access.h"
 #include "platform/windows/systems_profile.h"
 #include "platform/windows/wide_text.h"
 #include "platform/windows/windows_profile_file.h"
 #include "tests/contract/child_process_windows.h"
 #include "tests/contract/profile_file_contract.h"
-#include "tests/contract/throw_away_key_windows.h"
 #include "tests/support/throw_away_folder.h"
+#include "tests/support/windows/throw_away_key.h"
 
 namespace zelvane::test {
 namespace {
@@ -45,6 +52,19 @@ INSTANTIATE_TEST_SUITE_P(Windows, ProfileFileContract, testing::Values(makeWindo
 
 class WindowsProfileFileTest : public testing::Test {
  protected:
+  // Who may do what with a file, in the system's language for it.
+  static std::wstring rulesOf(const std::string& path) {
+    std::vector<std::byte> rules(4096);
+    DWORD size = 0;
+    GetFileSecurityW(wideText(path).c_str(), DACL_SECURITY_INFORMATION, rules.data(),
+                     static_cast<DWORD>(rules.size()), &size);
+    wchar_t* allocated = nullptr;
+    ConvertSecurityDescriptorToStringSecurityDescriptorW(
+        rules.data(), SDDL_REVISION_1, DACL_SECURITY_INFORMATION, &allocated, nullptr);
+    const std::unique_ptr<wchar_t, platform::FreeLocal> text(allocated);
+    return text.get();
+  }
+
   ThrowAwayFolder folder;
   WindowsProfileFile profile{folder / kFile};
 };
@@ -87,6 +107,14 @@ TEST_F(WindowsProfileFileTest, AFileInWideCharactersStaysOne) {
   EXPECT_TRUE(profile.write("s", "a", "ü"));
 
   EXPECT_EQ(folder.read(kFile), "\xFF\xFE[\0s\0]\0\r\0\n\0a\0=\0\xFC\0\r\0\n\0"s);
+}
+
+// Other users read it as well.
+TEST_F(WindowsProfileFileTest, TheFileMayBeUsedByWhomTheRulesOfItsFolderSay) {
+  EXPECT_TRUE(profile.write("Extensions", "DVK", "zelvane"));
+  folder.write("made by another program");
+
+  EXPECT_EQ(rulesOf(folder / kFile), rulesOf(folder / "made by another program"));
 }
 
 TEST_F(WindowsProfileFileTest, WhereTheFolderIsMissingWritingSaysSo) {

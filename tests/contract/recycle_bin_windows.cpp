@@ -3,9 +3,9 @@
 #include <string>
 #include <vector>
 
-#include <objbase.h>  // first of the system's headers, as the next one needs it
-#include <shellapi.h>
 #include <windows.h>
+#include <objbase.h>
+#include <shellapi.h>
 
 #include "platform/windows/long_path.h"
 #include "platform/windows/wide_text.h"

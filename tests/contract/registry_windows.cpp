@@ -3,7 +3,7 @@
 #include "platform/shared/registry_names.h"
 #include "platform/windows/windows_registry.h"
 #include "tests/contract/registry_contract.h"
-#include "tests/contract/throw_away_key_windows.h"
+#include "tests/support/windows/throw_away_key.h"
 
 namespace zelvane::test {
 namespace {

@@ -7,7 +7,7 @@
 #include "platform/windows/windows_settings.h"
 #include "tests/contract/child_process_windows.h"
 #include "tests/contract/settings_contract.h"
-#include "tests/contract/throw_away_key_windows.h"
+#include "tests/support/windows/throw_away_key.h"
 
 namespace zelvane::test {
 namespace {

@@ -5,59 +5,17 @@
 #include <vector>
 
 #include <windows.h>
-
-// These need the header above before them.
 #include <commctrl.h>
 #include <gtest/gtest.h>
 
-#include "core/main_window/frm_main.h"
-#include "core/main_window/startup.h"
-#include "platform/memory/memory_desktop.h"
 #include "platform/shared/product.h"
 #include "platform/windows/wide_text.h"
-#include "ui/win32/main_window.h"
+#include "tests/contract/shell_bed_windows.h"
 
 namespace zelvane::test {
 namespace {
 
 using controls::Control;
-
-class Win32ShellTest : public testing::Test {
- protected:
-  Win32ShellTest() { main_window::GenFunc::Main(desktop.ports(), window); }
-
-  // The controls that stand on the pages of the window, and those around the pages.
-  std::vector<Control*> controlsWithAFace() {
-    std::vector<Control*> all{&window.mainPage.tabMain, &window.mainPage.lblStatus};
-    for (const auto& page : window.tabPages()) {
-      all.insert(all.end(), page.begin(), page.end());
-    }
-    return all;
-  }
-
-  HWND handleOf(const Control& control) const {
-    const win32::Window* found = win32::Window::find(shell.handle(), control.name());
-    return found == nullptr ? nullptr : found->handle();
-  }
-
-  std::vector<HWND> allWindows() const {
-    std::vector<HWND> windows;
-    EnumChildWindows(
-        shell.handle(),
-        [](HWND child, LPARAM list) -> BOOL {
-          reinterpret_cast<std::vector<HWND>*>(list)->push_back(child);
-          return TRUE;
-        },
-        reinterpret_cast<LPARAM>(&windows));
-    return windows;
-  }
-
-  platform::MemoryDesktop desktop;
-  main_window::frmMain window{desktop.ports()};
-  controls::OpenBoxes boxes;
-  win32::Look look;
-  win32::MainWindow shell{window, boxes, look};
-};
 
 TEST_F(Win32ShellTest, EachControlWithAFaceHasOneWindowOfItsName) {
   const auto windows = allWindows();
@@ -153,21 +111,6 @@ TEST_F(Win32ShellTest, AMinimisedWindowThatTheUserRestoresIsNormalAgain) {
   EXPECT_EQ(window.mainPage.form.state(), controls::Form::State::normal);
 }
 
-TEST_F(Win32ShellTest, TheEndOfTheSessionUnloadsTheWindowOnceItIsCertain) {
-  bool unloaded = false;
-  window.mainPage.form.queryUnload.connect([&](bool& cancel, controls::UnloadMode mode) {
-    unloaded = mode == controls::UnloadMode::windows;
-    cancel = true;  // or the test would end
-  });
-
-  EXPECT_TRUE(SendMessageW(shell.handle(), WM_QUERYENDSESSION, 0, 0));
-  SendMessageW(shell.handle(), WM_ENDSESSION, FALSE, 0);
-  EXPECT_FALSE(unloaded);
-
-  SendMessageW(shell.handle(), WM_ENDSESSION, TRUE, 0);
-  EXPECT_TRUE(unloaded);
-}
-
 TEST_F(Win32ShellTest, ThePageInFrontFollowsBothWays) {
   const HWND tabs = handleOf(window.mainPage.tabMain);
 
@@ -224,20 +167,6 @@ TEST_F(Win32ShellTest, InALowWindowThePageScrollsToTheControlThatHasTheKeys) {
   GetWindowRect(GetParent(exitButton), &page);
   EXPECT_GE(button.top, page.top);
   EXPECT_LE(button.bottom, page.bottom);
-}
-
-TEST_F(Win32ShellTest, OnAFinerMonitorEverythingGrows) {
-  RECT before{};
-  GetWindowRect(handleOf(window.cleanerPage.cmdBasicClean), &before);
-  RECT wanted{0, 0, 1200, 1200};
-
-  SendMessageW(shell.handle(), WM_DPICHANGED, MAKEWPARAM(192, 192),
-               reinterpret_cast<LPARAM>(&wanted));
-
-  RECT after{};
-  GetWindowRect(handleOf(window.cleanerPage.cmdBasicClean), &after);
-  EXPECT_EQ(look.dpi(), 192U);
-  EXPECT_GT((after.bottom - after.top) * 10, (before.bottom - before.top) * 15);
 }
 
 // What the file says of itself, and what the program does.

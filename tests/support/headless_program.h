@@ -1,12 +1,7 @@
 // The whole program without a window, on a disk that may be thrown away.
 #pragma once
 
-#include <algorithm>
-#include <string>
-#include <vector>
-
-#include "core/main_window/frm_main.h"
-#include "core/main_window/startup.h"
+#include "platform/left_traces.h"
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_folder_tree.h"
 #include "platform/linux/linux_identity.h"
@@ -21,9 +16,11 @@
 #include "platform/memory/memory_clock.h"
 #include "platform/memory/memory_dialogs.h"
 #include "platform/memory/memory_event_pump.h"
+#include "platform/memory/memory_notifications.h"
 #include "platform/memory/memory_process_end.h"
 #include "platform/memory/memory_window.h"
 #include "platform/shared/live_folders.h"
+#include "tests/support/program_without_window.h"
 #include "tests/support/throw_away_environment.h"
 
 namespace zelvane::test {
@@ -55,6 +52,8 @@ class HeadlessDesktop {
   platform::MemoryWindow window;
   platform::MemoryEventPump pump;
   platform::MemoryProcessEnd process;
+  platform::MemoryNotifications notifications;
+  platform::LeftTraces leftTraces;
 
   platform::Desktop ports() {
     return {.identity = identity,
@@ -71,45 +70,12 @@ class HeadlessDesktop {
             .window = window,
             .pump = pump,
             .instance = instance,
-            .process = process};
+            .process = process,
+            .notifications = notifications,
+            .leftTraces = leftTraces};
   }
 };
 
-// One run of the program, from its start to its exit.
-class HeadlessProgram {
- public:
-  // The folder outlives it, and outlasts it for the next run.
-  explicit HeadlessProgram(const ThrowAwayFolder& folder) : desktop(folder) {}
-
-  HeadlessDesktop desktop;
-  main_window::frmMain window{desktop.ports()};
-
-  // What a user does.
-  void start() { main_window::GenFunc::Main(desktop.ports(), window); }
-  void clickOption(std::size_t index) { window.cleanerPage.chkSettings[index].click(); }
-  void clean() {
-    window.cleanerPage.cmdBasicClean.click();
-    window.schedulePage.tmrMakeScehduleEnable.tick();  // a second later
-  }
-  void exit() {
-    try {
-      window.mainPage.cmdClose.click();
-    } catch (const platform::ProcessEnded&) {
-      // The test goes on.
-    }
-  }
-
-  // What the user sees: the texts of all boxes so far, the status line, the account of the latest
-  // run.
-  std::vector<std::string> told() const {
-    std::vector<std::string> texts;
-    std::ranges::transform(desktop.dialogs.boxes(), std::back_inserter(texts),
-                           &platform::MessageBox::text);
-    return texts;
-  }
-  const std::string& status() const { return window.mainPage.lblStatus.caption(); }
-  std::string account() const { return window.cleanerPage.rtfMessage.text(); }
-  bool hasEnded() const { return desktop.process.ended(); }
-};
+using HeadlessProgram = ProgramWithoutWindow<HeadlessDesktop>;
 
 }  // namespace zelvane::test

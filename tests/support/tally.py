@@ -4,7 +4,8 @@
     tally.py RESULTS gtest SUITE JSON LOG STATUS        a GoogleTest program has ended
     tally.py RESULTS lines SUITE LOG STATUS             a script that prints "ok - ..." lines has ended
     tally.py RESULTS note OUTCOME SUITE NAME [LOG]      one test that is no program: passed, failed, skipped
-    tally.py RESULTS report SKIPS [--strict]            prints what failed, what was skipped, and the sums
+    tally.py RESULTS report SKIPS [--strict]            prints the contracts' counts, what failed, what was
+                                                        skipped, and the sums
 
 RESULTS is a file of one JSON object a line. STATUS is how the program ended: a program that fails
 without a failed test, or that shows no test at all, counts as one failed test.
@@ -135,6 +136,26 @@ def report_lines(results):
     yield f"{len(by_outcome['passed'])} passed, {len(by_outcome['failed'])} failed"
 
 
+def contract_table(results):
+    """How many tests of each port's contract passed on each of its tenants: the programs that hold
+    contracts, without those that run them once more under other conditions."""
+    counts = collections.Counter()
+    for result in results:
+        program = re.fullmatch(r"contract_(\w+?)(\.exe \(windows\))?", result.suite)
+        contract = re.search(r"(\w+)Contract\.", result.name)
+        if program and contract and result.outcome == "passed":
+            on_windows = " on Windows" if program[2] and program[1] != "windows" else ""
+            counts[contract[1], program[1] + on_windows] += 1
+    contracts, tenants = (sorted({key[which] for key in counts}) for which in (0, 1))
+    if not contracts:
+        return
+    rows = [["contract", *tenants]]
+    rows += [[name, *(str(counts[name, tenant] or "-") for tenant in tenants)] for name in contracts]
+    widths = [max(len(row[column]) for row in rows) for column in range(len(rows[0]))]
+    for row in rows:
+        yield "  ".join(cell.ljust(width) for cell, width in zip(row, widths)).rstrip()
+
+
 def append(path, results):
     with open(path, "a", encoding="utf-8") as file:
         for result in results:
@@ -158,7 +179,7 @@ def main(arguments):
         if "--strict" in rest:
             patterns = allowed_skips(read(rest[0]))
             results = [judge(result, patterns) for result in results]
-        print("\n".join(report_lines(results)))
+        print("\n".join([*contract_table(results), *report_lines(results)]))
         return any(result.outcome == "failed" for result in results)
     if command == "gtest":
         suite, report, log, status = rest

@@ -7,6 +7,7 @@ import sys
 import unittest
 
 sys.path.insert(0, os.path.dirname(os.path.abspath(__file__)))
+import lines  # noqa: E402
 import tally  # noqa: E402
 
 
@@ -120,24 +121,17 @@ class Reports(unittest.TestCase):
 
         self.assertEqual(tally.judge(skip, ["contract_linux: *Mount*"]).outcome, "failed")
 
+    def test_the_contracts_are_counted_by_port_and_tenant(self):
+        results = [tally.Result("contract_linux", "Linux/FilesContract.A/0", "passed", ""),
+                   tally.Result("contract_linux", "Linux/FilesContract.B/0", "passed", ""),
+                   tally.Result("contract_windows.exe (windows)", "Windows/FilesContract.A/0", "passed", ""),
+                   tally.Result("contract_windows.exe (windows)", "Windows/ClockContract.A/0", "skipped", ""),
+                   tally.Result("contract_linux (asan)", "Linux/FilesContract.A/0", "passed", ""),
+                   tally.Result("unit_tests", "Unit.A", "passed", "")]
 
-class Lines(unittest.TextTestResult):
-    """Prints the results as ./check reads them."""
-
-    def addSuccess(self, test):
-        super().addSuccess(test)
-        print("ok -", test.id().split(".", 1)[1])
-
-    def addFailure(self, test, err):
-        super().addFailure(test, err)
-        print(self.failures[-1][1] + "not ok -", test.id().split(".", 1)[1])
-
-    def addError(self, test, err):
-        super().addError(test, err)
-        print(self.errors[-1][1] + "not ok -", test.id().split(".", 1)[1])
+        self.assertEqual(list(tally.contract_table(results)),
+                         ["contract  linux  windows", "Files     2      1"])
 
 
 if __name__ == "__main__":
-    with open(os.devnull, "w", encoding="utf-8") as nowhere:
-        runner = unittest.TextTestRunner(stream=nowhere, resultclass=Lines)
-        unittest.main(testRunner=runner)
+    lines.main()

@@ -5,6 +5,7 @@
 #include "core/main_window/startup.h"
 #include "platform/desktop.h"
 #include "platform/linux/environment.h"
+#include "platform/linux/linux_browser_desktop.h"
 #include "platform/linux/linux_clock.h"
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_folder_tree.h"
@@ -17,12 +18,16 @@
 #include "platform/linux/linux_single_instance.h"
 #include "platform/linux/linux_special_folders.h"
 #include "platform/linux/recently_used.h"
+#include "platform/linux/run_history.h"
+#include "platform/shared/browsers/browser_traces.h"
 #include "platform/shared/live_folders.h"
+#include "platform/shared/live_registry.h"
 #include "ui/qt/application.h"
 #include "ui/qt/main_window.h"
 #include "ui/qt/qt_clipboard.h"
 #include "ui/qt/qt_dialogs.h"
 #include "ui/qt/qt_event_pump.h"
+#include "ui/qt/qt_notifications.h"
 #include "ui/qt/qt_window_commands.h"
 
 namespace zelvane {
@@ -36,13 +41,23 @@ struct LinuxDesktop {
   platform::LinuxIdentity identity{environment};
   platform::LinuxClock clock;
   platform::LinuxSettings settings{environment};
-  platform::LinuxRegistry registry{environment};
+  platform::LinuxRegistry hive{environment};
   platform::LinuxProfileFile winIni{environment};
   platform::LinuxSpecialFolders plainFolders{environment};
   platform::LinuxFolderTree plainTree;
   platform::RecentlyUsed recentlyUsed{environment};
-  platform::LiveFolders folders{plainFolders, plainTree, {recentlyUsed}};
   platform::LinuxFiles files;
+  platform::LinuxBrowserDesktop browsers{environment};
+  platform::LinuxFolderTree wholeTree{{.listsHiddenFiles = true}};
+  platform::LeftTraces leftTraces;
+  platform::BrowserTraces browserTraces{browsers, wholeTree, files, leftTraces};
+  platform::RunHistory runHistory{environment, files};
+  platform::LiveRegistry registry{hive,
+                                  {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
+                                    [this] { browserTraces.eraseTyped(); }},
+                                   {R"(Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU)",
+                                    [this] { runHistory.erase(); }}}};
+  platform::LiveFolders folders{plainFolders, plainTree, {recentlyUsed, browserTraces}};
   platform::LinuxRecycleBin recycleBin{environment};
   platform::LinuxSingleInstance instance{environment};
   platform::LinuxProcessEnd process;
@@ -50,6 +65,7 @@ struct LinuxDesktop {
   qt::QtDialogs dialogs;
   qt::QtWindowCommands window;
   qt::QtEventPump pump;
+  qt::QtNotifications notifications;
 
   platform::Desktop ports() {
     return {.identity = identity,
@@ -66,7 +82,9 @@ struct LinuxDesktop {
             .window = window,
             .pump = pump,
             .instance = instance,
-            .process = process};
+            .process = process,
+            .notifications = notifications,
+            .leftTraces = leftTraces};
   }
 };
 

@@ -11,7 +11,7 @@ namespace zelvane::win32 {
 void makeCleanInternetTab(cleaner::CleanerPage& controls, Pane& page) {
   page.body().setMargins(Gap::large);
   auto& frame = page.make<FrameWindow>(controls.fmSettings);
-  setSpokenName(frame.handle(), L"Traces of browsing");
+  setSpokenName(frame, L"Traces of browsing");
   page.body().add(frame, {.grows = true});
 
   // The bookmarks stand apart from what is erased every day: set in, on their own.

@@ -52,7 +52,7 @@ void addHead(main_window::MainPage& controls, Pane& page) {
 void addRun(main_window::frmMain& window, Pane& page) {
   Box& row = page.body().addBox(Box::Lie::row, Gap::large);
   auto& frame = page.make<FrameWindow>(window.mainPage.fileMain);
-  setSpokenName(frame.handle(), L"Picture");
+  setSpokenName(frame, L"Picture");
   frame.body().add(frame.make<PictureWindow>(window.mainPage.Picture1, kPictureSide));
   row.add(frame);
   auto& clean = page.make<ButtonWindow>(window.cleanerPage.cmdBasicClean);

@@ -58,14 +58,9 @@ MainWindow::MainWindow(main_window::frmMain& window, controls::OpenBoxes& boxes,
   nameByLabels(window, faces);
   orderTabKeys(window, faces);
   number(window, faces);
-  for (const controls::Page* page : window.pages()) {
-    for (controls::Control* control : page->controls()) {
-      if (auto* timer = dynamic_cast<controls::Timer*>(control)) {
-        make<TimerMirror>(*timer, boxes);
-      }
-    }
-  }
+  whenSettled([this, &window, &boxes] { startTimers(window, boxes); });
   fit();
+  tabs_->showPage();
 }
 
 void MainWindow::layOutPages(main_window::frmMain& window) {
@@ -95,18 +90,13 @@ void MainWindow::layOutPages(main_window::frmMain& window) {
   body().add(std::move(column), {.grows = true});
 }
 
-MainWindow::Faces MainWindow::facesOfControls() const {
+MainWindow::Faces MainWindow::facesOfControls() {
   Faces faces;
-  EnumChildWindows(
-      handle(),
-      [](HWND child, LPARAM parameter) -> BOOL {
-        Window* window = of(child);
-        if (window != nullptr && window->control() != nullptr) {
-          reinterpret_cast<Faces*>(parameter)->emplace(window->control(), window);
-        }
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&faces));
+  visit([&faces](Window& window) {
+    if (window.control() != nullptr) {
+      faces.emplace(window.control(), &window);
+    }
+  });
   return faces;
 }
 
@@ -119,37 +109,47 @@ void MainWindow::nameByLabels(main_window::frmMain& window, const Faces& faces) 
       }
       Window* buddy = faces.at(label->buddy());
       follow(*label, *buddy,
-             [label, buddy] { setSpokenName(buddy->handle(), plainCaption(label->caption())); });
+             [label, buddy] { setSpokenName(*buddy, plainCaption(label->caption())); });
     }
   }
 }
 
-// The keys visit windows in the order in which they lie on each other, the topmost first.
+// As the windows of the pages are still to be made, each is made when its turn is.
 void MainWindow::orderTabKeys(main_window::frmMain& window, const Faces& faces) {
-  constexpr UINT kOrderOnly = SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE;
   for (const auto& page : window.tabPages()) {
-    std::map<HWND, HWND> last;  // of each window that holds others, the latest one in it
+    std::map<Pane*, const Window*> last;  // of each pane, the latest window in it
     for (const controls::Control* control : page) {
-      const HWND one = faces.at(control)->handle();
-      const HWND parent = GetParent(one);
-      const auto before = last.find(parent);
-      SetWindowPos(one, before == last.end() ? HWND_TOP : before->second, 0, 0, 0, 0, kOrderOnly);
-      last[parent] = one;
+      const Window* one = faces.at(control);
+      auto* pane = dynamic_cast<Pane*>(one->above());
+      const Window*& before = last[pane];
+      if (before != nullptr) {
+        pane->makeAfter(*before, *one);
+      }
+      before = one;
     }
   }
 }
 
-// The number by which the system, and whoever looks from outside, knows a control.
 void MainWindow::number(main_window::frmMain& window, const Faces& faces) {
-  constexpr LONG_PTR kFirst = 1000;  // below are those of the usual buttons of boxes
-  LONG_PTR number = kFirst;
+  constexpr int kFirst = 1000;  // below are those of the usual buttons of boxes
+  int number = kFirst;
   for (const controls::Page* page : window.pages()) {
     for (const controls::Control* control : page->controls()) {
       const auto face = faces.find(control);
       if (face != faces.end()) {
-        SetWindowLongPtrW(face->second->handle(), GWLP_ID, number);
+        face->second->setNumber(number);
       }
       ++number;
+    }
+  }
+}
+
+void MainWindow::startTimers(main_window::frmMain& window, controls::OpenBoxes& boxes) {
+  for (const controls::Page* page : window.pages()) {
+    for (controls::Control* control : page->controls()) {
+      if (auto* timer = dynamic_cast<controls::Timer*>(control)) {
+        make<TimerMirror>(*timer, boxes);
+      }
     }
   }
 }

@@ -23,10 +23,12 @@ class MainWindow : public FormWindow {
   using Faces = std::map<const controls::Control*, Window*>;
 
   void layOutPages(main_window::frmMain& window);
-  Faces facesOfControls() const;
+  Faces facesOfControls();
   static void nameByLabels(main_window::frmMain& window, const Faces& faces);
   static void orderTabKeys(main_window::frmMain& window, const Faces& faces);
   static void number(main_window::frmMain& window, const Faces& faces);
+
+  void startTimers(main_window::frmMain& window, controls::OpenBoxes& boxes);
 
   TabStripWindow* tabs_ = nullptr;
 };

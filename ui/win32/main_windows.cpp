@@ -1,12 +1,18 @@
 // Where ports, window and shell meet on a Windows desktop. It chooses them, and nothing else.
 
-#include <ole2.h>
 #include <windows.h>
+#include <ole2.h>
 
 #include "core/controls/open_boxes.h"
 #include "core/main_window/frm_main.h"
 #include "core/main_window/startup.h"
 #include "platform/desktop.h"
+#include "platform/left_traces.h"
+#include "platform/shared/browsers/browser_traces.h"
+#include "platform/shared/live_folders.h"
+#include "platform/shared/live_registry.h"
+#include "platform/windows/explorer_history.h"
+#include "platform/windows/windows_browser_desktop.h"
 #include "platform/windows/windows_clock.h"
 #include "platform/windows/windows_files.h"
 #include "platform/windows/windows_folder_tree.h"
@@ -23,6 +29,7 @@
 #include "ui/win32/win32_clipboard.h"
 #include "ui/win32/win32_dialogs.h"
 #include "ui/win32/win32_event_pump.h"
+#include "ui/win32/win32_notifications.h"
 #include "ui/win32/win32_window_commands.h"
 
 namespace zelvane {
@@ -43,11 +50,26 @@ struct WindowsDesktop {
   platform::WindowsIdentity identity;
   platform::WindowsClock clock;
   platform::WindowsSettings settings;
-  platform::WindowsRegistry registry;
+  platform::WindowsRegistry systemRegistry;
   platform::WindowsProfileFile winIni;
-  platform::WindowsSpecialFolders specialFolders{platform::systemFolders([this] { return owner; })};
-  platform::WindowsFolderTree folderTree;
+  platform::WindowsSpecialFolders plainFolders{platform::systemFolders([this] { return owner; })};
+  platform::WindowsFolderTree plainTree;
   platform::WindowsFiles files;
+  platform::WindowsBrowserDesktop browsers{platform::foldersOfUser()};
+  platform::WindowsFolderTree wholeTree{
+      {.way = platform::WindowsFolderTree::usualWay(), .listsHiddenFiles = true}};
+  platform::LeftTraces leftTraces;
+  platform::BrowserTraces browserTraces{browsers, wholeTree, files, leftTraces};
+  platform::ExplorerHistory explorer{systemRegistry};
+  platform::LiveRegistry registry{systemRegistry,
+                                  {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
+                                    [this] {
+                                      explorer.eraseTyped();
+                                      browserTraces.eraseTyped();
+                                    }},
+                                   {R"(Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU)",
+                                    [this] { explorer.eraseRun(); }}}};
+  platform::LiveFolders folders{plainFolders, plainTree, {browserTraces}};
   platform::WindowsRecycleBin recycleBin{[this] { return owner; }};
   platform::WindowsSingleInstance instance;
   platform::WindowsProcessEnd process;
@@ -55,6 +77,7 @@ struct WindowsDesktop {
   win32::Win32Dialogs dialogs;
   win32::Win32WindowCommands window;
   win32::Win32EventPump pump;
+  win32::Win32Notifications notifications;
 
   platform::Desktop ports() {
     return {.identity = identity,
@@ -62,8 +85,8 @@ struct WindowsDesktop {
             .settings = settings,
             .registry = registry,
             .winIni = winIni,
-            .specialFolders = specialFolders,
-            .folderTree = folderTree,
+            .specialFolders = folders,
+            .folderTree = folders,
             .files = files,
             .recycleBin = recycleBin,
             .clipboard = clipboard,
@@ -71,7 +94,9 @@ struct WindowsDesktop {
             .window = window,
             .pump = pump,
             .instance = instance,
-            .process = process};
+            .process = process,
+            .notifications = notifications,
+            .leftTraces = leftTraces};
   }
 };
 

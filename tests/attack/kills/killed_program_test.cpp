@@ -1,7 +1,6 @@
 // The whole program, killed beside each of its changes of the disk in turn.
 #include <filesystem>
 #include <functional>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -9,6 +8,7 @@
 #include <sys/mman.h>
 
 #include "tests/attack/kills/stored_values.h"
+#include "tests/attack/kills/users_steps.h"
 #include "tests/support/headless_program.h"
 #include "tests/support/kill/kill_tracer.h"
 
@@ -23,26 +23,8 @@ constexpr const char* kStores = "home/.config/zelvane/";
 constexpr const char* kTrash = "home/.local/share/Trash/";
 constexpr const char* kList = "home/.local/share/recently-used.xbel";
 
-// What a user does from the start to the exit. Each step stores little, so that what is on the disk
-// after a kill can be told apart.
 using Step = std::function<void(HeadlessProgram&)>;
-const std::vector<Step> kSteps = {
-    [](HeadlessProgram& program) { program.start(); },
-    [](HeadlessProgram& program) { program.clickOption(12); },
-    [](HeadlessProgram& program) { program.clickOption(13); },
-    [](HeadlessProgram& program) { program.clickOption(14); },
-    [](HeadlessProgram& program) {
-      program.window.cleanerPage.txtHomePageURL.setText("https://home.example/");
-      program.window.cleanerPage.cmdHomePage.click();
-    },
-    [](HeadlessProgram& program) { program.window.cleanerPage.chkWebAddress.click(); },
-    [](HeadlessProgram& program) { program.window.cleanerPage.cmdBasicClean.click(); },
-    [](HeadlessProgram& program) { program.window.schedulePage.tmrMakeScehduleEnable.tick(); },
-    [](HeadlessProgram& program) {
-      program.window.mainPage.chkStartup.setValue(1);
-      program.exit();
-    },
-};
+const std::vector<Step> kSteps = usersSteps<HeadlessProgram>();
 
 // Things for a run to erase.
 void litter(const ThrowAwayFolder& folder) {
@@ -194,11 +176,7 @@ class KilledProgram : public testing::Test {
       program.start();
       report.write("told at the start", told(program));
       report.write("status", program.status());
-      for (const std::size_t option : {12U, 13U, 14U}) {
-        program.window.cleanerPage.chkSettings[option].setValue(0);
-      }
-      program.window.cleanerPage.chkWebAddress.setValue(1);
-      for (const Step& step : std::span(kSteps).subspan(1)) step(program);
+      doAllAgain(program);
       report.write("told in all", told(program));
     };
 

@@ -1,22 +1,10 @@
 #include "tests/attack/kills/stored_values.h"
 
-#include <optional>
-#include <set>
-
 #include <nlohmann/json.hpp>
 
 namespace zelvane::test {
-namespace {
 
 using nlohmann::json;
-
-std::optional<std::string> valueIn(const StoredValues& values, const std::string& name) {
-  const auto found = values.find(name);
-  if (found == values.end()) return std::nullopt;
-  return found->second;
-}
-
-}  // namespace
 
 StoredValues storedIn(const ThrowAwayFolder& folder) {
   StoredValues values;
@@ -34,19 +22,6 @@ StoredValues storedIn(const ThrowAwayFolder& folder) {
     if (folder.has(file)) values[file] = folder.read(file);
   }
   return values;
-}
-
-std::vector<std::string> neitherBeforeNorAfter(const StoredValues& now, const StoredValues& before,
-                                               const StoredValues& after) {
-  std::set<std::string> names;
-  for (const StoredValues* values : {&now, &before, &after}) {
-    for (const auto& [name, value] : *values) names.insert(name);
-  }
-  std::erase_if(names, [&](const std::string& name) {
-    const auto value = valueIn(now, name);
-    return value == valueIn(before, name) || value == valueIn(after, name);
-  });
-  return {names.begin(), names.end()};
 }
 
 }  // namespace zelvane::test

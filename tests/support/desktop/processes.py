@@ -36,6 +36,17 @@ def end(process, seconds=5):
             process.wait()
 
 
+def kill_all_of(home):
+    """Every process that was started for the user of that home, whoever started it."""
+    mark = b"\0HOME=" + os.fsencode(home) + b"\0"
+    for environment in pathlib.Path("/proc").glob("[0-9]*/environ"):
+        try:
+            if mark in b"\0" + environment.read_bytes():
+                _signal(int(environment.parent.name), signal.SIGKILL)
+        except (FileNotFoundError, PermissionError, ProcessLookupError):
+            pass  # It ended just now, or is somebody else's.
+
+
 def end_all(seconds=5):
     """Ends every child, the adopted ones too."""
     limit = time.monotonic() + seconds

@@ -54,6 +54,26 @@ TEST_F(CleaningRunTest, TheTimeOfItsStartIsShownAtOnce) {
   EXPECT_EQ(around.lblLastRunTime.caption(), "09:05:07");
 }
 
+TEST_F(CleaningRunTest, AnOpenBrowserIsToldOnceAfterTheRun) {
+  desktop.leftTraces.add({"Firefox (home)", ""});
+  desktop.leftTraces.add({"Firefox (home)", ""});
+
+  page.cmdBasicClean.click();
+  page.cmdBasicClean.click();
+
+  ASSERT_EQ(desktop.notifications.shown.size(), 1U);
+  EXPECT_EQ(desktop.notifications.shown[0].title, "Zelvane");
+  EXPECT_EQ(desktop.notifications.shown[0].text,
+            "Firefox (home) is open. Its traces were left: close it and clean again.");
+  EXPECT_EQ(log(), "\r\nDone");
+}
+
+TEST_F(CleaningRunTest, WithNothingLeftNothingIsTold) {
+  page.cmdBasicClean.click();
+
+  EXPECT_TRUE(desktop.notifications.shown.empty());
+}
+
 TEST_F(CleaningRunTest, TheWindowComesForwardWithItsFirstPage) {
   around.tabMain.setTab(2);
 

@@ -9,8 +9,7 @@
 namespace zelvane::win32 {
 
 ButtonWindow::ButtonWindow(controls::Button& control, Pane& parent)
-    : Window({WC_BUTTONW, WS_CHILD | WS_VISIBLE | WS_GROUP | WS_TABSTOP | BS_PUSHBUTTON},
-             parent.handle(), parent.look()),
+    : Window({WC_BUTTONW, WS_CHILD | WS_VISIBLE | WS_GROUP | WS_TABSTOP | BS_PUSHBUTTON}, parent),
       control_(control) {
   mirrorCaptioned(control, *this);
 }

@@ -32,12 +32,11 @@ Size markedSize(const Window& window) {
 
 // What the box shows after a click is the control's to say, so it does not turn by itself.
 CheckBoxWindow::CheckBoxWindow(controls::CheckBox& control, Pane& parent)
-    : Window({WC_BUTTONW, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_3STATE}, parent.handle(),
-             parent.look()),
+    : Window({WC_BUTTONW, WS_CHILD | WS_VISIBLE | WS_TABSTOP | BS_3STATE}, parent),
       control_(control) {
   mirrorCaptioned(control, *this);
-  follow(control, *this,
-         [this] { SendMessageW(handle(), BM_SETCHECK, stateOf(control_.value()), 0); });
+  followOnceMade(control, *this,
+                 [this] { SendMessageW(handle(), BM_SETCHECK, stateOf(control_.value()), 0); });
 }
 
 Size CheckBoxWindow::natural() const { return markedSize(*this); }

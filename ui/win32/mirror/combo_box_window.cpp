@@ -11,15 +11,18 @@ namespace zelvane::win32 {
 
 ComboBoxWindow::ComboBoxWindow(controls::ComboBox& control, Pane& parent)
     : Window({WC_COMBOBOXW, WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | CBS_DROPDOWNLIST},
-             parent.handle(), parent.look()),
+             parent),
       control_(control) {
-  for (const std::string& item : control.items()) {
-    SendMessageW(handle(), CB_ADDSTRING, 0,
-                 reinterpret_cast<LPARAM>(platform::wideText(item).c_str()));
-  }
-  SendMessageW(handle(), CB_SETMINVISIBLE, control.items().size(), 0);
+  whenMade([this] {
+    for (const std::string& item : control_.items()) {
+      SendMessageW(handle(), CB_ADDSTRING, 0,
+                   reinterpret_cast<LPARAM>(platform::wideText(item).c_str()));
+    }
+    SendMessageW(handle(), CB_SETMINVISIBLE, control_.items().size(), 0);
+    fitHeight();
+  });
   mirrorControl(control, *this);
-  follow(control, *this, [this] {
+  followOnceMade(control, *this, [this] {
     SendMessageW(handle(), CB_SETCURSEL, static_cast<WPARAM>(control_.listIndex()), 0);
   });
 }
@@ -29,13 +32,35 @@ Size ComboBoxWindow::natural() const {
   for (const std::string& item : control_.items()) {
     widest = std::max(widest, look().textSize(platform::wideText(item), font()).width);
   }
-  RECT closed{};
-  GetWindowRect(handle(), &closed);
   return {widest + GetSystemMetricsForDpi(SM_CXVSCROLL, look().dpi()) + look().scaled(12),
-          closed.bottom - closed.top};
+          isMade() ? closedHeight() : look().fieldHeight()};
 }
 
-// The height of the closed box is the system's choice; what is given counts with the list open.
+int ComboBoxWindow::closedHeight() const {
+  RECT closed{};
+  GetWindowRect(handle(), &closed);
+  return closed.bottom - closed.top;
+}
+
+// As high as other fields. The system is told of the line inside, and adds a border of its choice,
+// which is seen by trying.
+void ComboBoxWindow::fitHeight() const {
+  const int wanted = look().fieldHeight();
+  const auto setLine = [this](int height) {
+    SendMessageW(handle(), CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), height);
+  };
+  setLine(wanted);
+  setLine(wanted - (closedHeight() - wanted));
+}
+
+void ComboBoxWindow::onLookChanged() {
+  Window::onLookChanged();
+  if (isMade()) {
+    fitHeight();
+  }
+}
+
+// The height of the closed box is not what is given: that counts with the list open.
 void ComboBoxWindow::place(const Area& area) {
   Window::place(
       {area.left, area.top, area.width,

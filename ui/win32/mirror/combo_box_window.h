@@ -13,8 +13,12 @@ class ComboBoxWindow : public Window {
   Size natural() const override;
   void place(const Area& area) override;
   void onCommand(WORD code) override;
+  void onLookChanged() override;
 
  private:
+  int closedHeight() const;
+  void fitHeight() const;
+
   controls::ComboBox& control_;
 };
 

@@ -41,13 +41,15 @@ SYSTEMTIME fieldOf(const platform::LocalTime& time) {
 DatePickerWindow::DatePickerWindow(controls::DatePicker& control, Pane& parent)
     : Window({DATETIMEPICK_CLASSW,
               WS_CHILD | WS_VISIBLE | WS_TABSTOP | DTS_SHOWNONE | formOf(control.kind())},
-             parent.handle(), parent.look()),
+             parent),
       control_(control) {
   if (control.kind() == Kind::time) {
-    SendMessageW(handle(), DTM_SETFORMATW, 0, reinterpret_cast<LPARAM>(L"HH:mm:ss"));
+    whenMade([this] {
+      SendMessageW(handle(), DTM_SETFORMATW, 0, reinterpret_cast<LPARAM>(L"HH:mm:ss"));
+    });
   }
   mirrorControl(control, *this);
-  follow(control, *this, [this] { showControl(); });
+  followOnceMade(control, *this, [this] { showControl(); });
 }
 
 void DatePickerWindow::showControl() {
@@ -72,7 +74,7 @@ platform::LocalTime DatePickerWindow::edited(const SYSTEMTIME& field) const {
 
 Size DatePickerWindow::natural() const {
   return {look().letters(16) + GetSystemMetricsForDpi(SM_CXVSCROLL, look().dpi()) * 2,
-          look().lineHeight() + look().scaled(9)};
+          look().fieldHeight()};
 }
 
 std::optional<LRESULT> DatePickerWindow::onNotify(const NMHDR& notice) {

@@ -13,12 +13,8 @@ bool always() { return true; }
 
 void describe(const controls::Control& control, Window& window) {
   const std::wstring description = platform::wideText(control.description());
-  if (Window* root = Window::of(GetAncestor(window.handle(), GA_ROOT))) {
-    root->setTip(window.handle(), description);
-  }
-  if (!description.empty()) {
-    setSpokenDescription(window.handle(), description);
-  }
+  window.setTip(window.handle(), description);
+  setSpokenDescription(window.handle(), description);
 }
 
 // Where the text on the screen is no name.
@@ -29,10 +25,25 @@ bool isNamedByItsText(const controls::Control& control) {
 
 }  // namespace
 
+// A window that is not made yet goes with the one in which it will be.
+void whileAlive(controls::Event<>& event, const Window& window, std::function<void()> handle) {
+  const Window& made = window.nearestMade();
+  event.connect([life = made.handle(), &made, handle = std::move(handle)] {
+    if (Window::of(life) == &made) {
+      handle();
+    }
+  });
+}
+
 void follow(controls::Control& control, Window& window, std::function<void()> show) {
   show();
-  control.changed.connect([handle = window.handle(), &window, show = std::move(show)] {
-    if (Window::of(handle) == &window) {
+  whileAlive(control.changed, window, std::move(show));
+}
+
+void followOnceMade(controls::Control& control, Window& window, std::function<void()> show) {
+  window.whenMade(show);
+  whileAlive(control.changed, window, [&window, show = std::move(show)] {
+    if (window.isMade()) {
       show();
     }
   });
@@ -46,16 +57,20 @@ void mirrorControl(controls::Control& control, Window& window, std::function<boo
   window.setControl(control);
   if (!isNamedByItsText(control) && !control.description().empty()) {
     const std::string& description = control.description();
-    setSpokenName(
-        window.handle(),
-        platform::wideText(std::string_view(description)
-                               .substr(0, description.size() - description.ends_with('.'))));
+    setSpokenName(window, platform::wideText(
+                              std::string_view(description)
+                                  .substr(0, description.size() - description.ends_with('.'))));
   }
-  follow(control, window, [&control, &window, worthShowing = std::move(worthShowing)] {
-    describe(control, window);
-    window.setShown(control.visible() && worthShowing());
-    window.setUsable(control.reachable());
-  });
+  follow(control, window,
+         [&control, &window, worthShowing = std::move(worthShowing),
+          described = std::string()]() mutable {
+           if (control.description() != described) {
+             described = control.description();
+             window.whenSettled([&control, &window] { describe(control, window); });
+           }
+           window.setShown(control.visible() && worthShowing());
+           window.setUsable(control.reachable());
+         });
 }
 
 void mirrorCaptioned(controls::CaptionedControl& control, Window& window) {

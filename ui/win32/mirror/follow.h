@@ -9,8 +9,15 @@
 
 namespace zelvane::win32 {
 
-// Calls `show` now and whenever the control changes, for as long as `window` lives.
+// Calls `handle` at each event for as long as `window` lives.
+void whileAlive(controls::Event<>& event, const Window& window, std::function<void()> handle);
+
+// Calls `show` now and whenever the control changes, for as long as `window` lives; also before it
+// is made.
 void follow(controls::Control& control, Window& window, std::function<void()> show);
+
+// The same for what only a window that the system has made can be told.
+void followOnceMade(controls::Control& control, Window& window, std::function<void()> show);
 
 // Makes the window the face of the control: it has its name; tip, enabled and visible follow it.
 // A screen reader says the text of a window or of the label before it; one that has neither has the

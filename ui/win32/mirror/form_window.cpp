@@ -13,23 +13,23 @@ namespace {
 
 constexpr int kWidestTip = 400;  // at 96 dots per inch
 
-HWND makeTips(HWND window) {
-  return CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
-                         WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0, 0, window, nullptr,
-                         GetModuleHandleW(nullptr), nullptr);
-}
+// To the window itself: lay out what is in it.
+constexpr UINT kLayoutMessage = WM_APP + 1;
+
+// The system lets a timer wait until nothing is left to be drawn.
+constexpr UINT_PTR kFinishTimer = 1;
 
 }  // namespace
 
 FormWindow::FormWindow(controls::Form& control, Look& look)
     : Pane({kPaneClass, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT}, look),
       control_(control),
-      ownLook_(look),
-      tips_(makeTips(handle())) {
+      ownLook_(look) {
   setControl(control);
   setBackground(COLOR_BTNFACE);
   adopt(GetDpiForWindow(handle()));
   follow(control, *this, [this] { showControl(); });
+  SetTimer(handle(), kFinishTimer, USER_TIMER_MINIMUM, nullptr);
 }
 
 // While the members are still there: the system tells of the window's end.
@@ -37,8 +37,21 @@ FormWindow::~FormWindow() { destroy(); }
 
 void FormWindow::adopt(UINT dpi) {
   ownLook_.setDpi(dpi);
-  SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, look().scaled(kWidestTip));
+  fitTips();
   onLookChanged();
+}
+
+void FormWindow::makeTips() {
+  tips_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
+                          WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, 0, 0, 0, 0, handle(), nullptr,
+                          GetModuleHandleW(nullptr), nullptr);
+  fitTips();
+}
+
+void FormWindow::fitTips() const {
+  if (tips_ != nullptr) {
+    SendMessageW(tips_, TTM_SETMAXTIPWIDTH, 0, look().scaled(kWidestTip));
+  }
 }
 
 SIZE FormWindow::withBorder(Size inside) const {
@@ -66,7 +79,7 @@ void FormWindow::fit() {
 void FormWindow::setTip(HWND tool, const std::wstring& text) {
   TTTOOLINFOW tip{};
   tip.cbSize = sizeof tip;
-  tip.uFlags = TTF_IDISHWND | TTF_SUBCLASS;
+  tip.uFlags = TTF_IDISHWND;
   tip.hwnd = handle();
   tip.uId = reinterpret_cast<UINT_PTR>(tool);
   std::wstring shown = text;
@@ -74,6 +87,12 @@ void FormWindow::setTip(HWND tool, const std::wstring& text) {
   SendMessageW(tips_, TTM_DELTOOLW, 0, reinterpret_cast<LPARAM>(&tip));
   if (!text.empty()) {
     SendMessageW(tips_, TTM_ADDTOOLW, 0, reinterpret_cast<LPARAM>(&tip));
+  }
+}
+
+void FormWindow::followPointer(MSG& message) {
+  if (tips_ != nullptr) {
+    SendMessageW(tips_, TTM_RELAYEVENT, 0, reinterpret_cast<LPARAM>(&message));
   }
 }
 
@@ -117,12 +136,44 @@ void FormWindow::onActivate(WPARAM how) {
   control_.activated.raise();
 }
 
-// Many things may have asked by now; one answer is enough.
-void FormWindow::onLayoutAsked() {
-  MSG another;
-  while (PeekMessageW(&another, handle(), kLayoutMessage, kLayoutMessage, PM_REMOVE)) {
+// Many things may ask before there is time; one answer is enough.
+void FormWindow::askForLayout() {
+  if (!layoutAsked_) {
+    layoutAsked_ = PostMessageW(handle(), kLayoutMessage, 0, 0) != FALSE;
   }
+}
+
+void FormWindow::onLayoutAsked() {
+  layoutAsked_ = false;
   layOut();
+}
+
+void FormWindow::finish() {
+  if (settled_) {
+    return;
+  }
+  KillTimer(handle(), kFinishTimer);
+  makeWindow();
+  makeTips();
+  settled_ = true;
+  visit([](Window& window) { window.settle(); });
+  visit([this](Window& window) {
+    if (&window != this) {
+      window.showControlName();
+    }
+  });
+  showControlName();
+}
+
+// A page each time, so that the window answers in between.
+void FormWindow::finishSome() {
+  const auto page =
+      std::ranges::find_if_not(children(), [](const auto& child) { return child->isMade(); });
+  if (page == children().end()) {
+    finish();
+  } else {
+    (*page)->makeWindow();
+  }
 }
 
 void FormWindow::onDpi(UINT dpi, const RECT& wanted) {
@@ -167,6 +218,12 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM word, LPARAM value) {
     case kLayoutMessage:
       onLayoutAsked();
       return 0;
+    case WM_TIMER:
+      if (word == kFinishTimer) {
+        finishSome();
+        return 0;
+      }
+      break;
     default:
       break;
   }

@@ -16,27 +16,44 @@ class FormWindow : public Pane {
   // Gives the window the size of what it shows, in the middle of the screen, as far as that goes.
   void fit();
 
+  // Makes the windows that are not seen first, and tells tips, screen readers and other programs
+  // what they want to know; the window's own name comes last, so that whoever finds it finds the
+  // rest as well. The window does all this by itself as soon as it has been drawn; who cannot wait
+  // for that calls it before.
+  void finish();
+
+  void askForLayout() override;
   void setTip(HWND tool, const std::wstring& text) override;
+
+  // Shows the tip of what the pointer rests on. To be told of each message of the mouse to anything
+  // in the window, because finding that out by itself would make every other message slower.
+  void followPointer(MSG& message);
 
   // What the keys do before they come to a control. True when that was all.
   virtual bool onKey(const MSG& /*message*/) { return false; }
 
  protected:
   LRESULT onMessage(UINT message, WPARAM word, LPARAM value) override;
+  bool isSettled() const override { return settled_; }
 
  private:
   void showControl();
   void onSize(WPARAM how);
   void onActivate(WPARAM how);
   void onLayoutAsked();
+  void finishSome();
+  void makeTips();
+  void fitTips() const;
   void onDpi(UINT dpi, const RECT& wanted);
   void adopt(UINT dpi);
   SIZE withBorder(Size inside) const;
 
   controls::Form& control_;
   Look& ownLook_;
-  HWND tips_;
+  HWND tips_ = nullptr;
   HWND focused_ = nullptr;  // who had the keys when the window lost them
+  bool layoutAsked_ = false;
+  bool settled_ = false;
 };
 
 }  // namespace zelvane::win32

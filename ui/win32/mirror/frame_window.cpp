@@ -8,17 +8,12 @@ namespace zelvane::win32 {
 
 namespace {
 
-void showWhetherUsable(const Window& above) {
-  EnumChildWindows(
-      above.handle(),
-      [](HWND child, LPARAM) -> BOOL {
-        Window* window = Window::of(child);
-        if (window != nullptr && window->control() != nullptr) {
-          window->setUsable(window->control()->reachable());
-        }
-        return TRUE;
-      },
-      0);
+void showWhetherUsable(Window& above) {
+  above.visit([](Window& window) {
+    if (window.control() != nullptr) {
+      window.setUsable(window.control()->reachable());
+    }
+  });
 }
 
 }  // namespace

@@ -55,7 +55,7 @@ std::function<bool()> unlessEmpty(const controls::Label& control) {
 
 LabelWindow::LabelWindow(controls::Label& control, Pane& parent)
     : Window({WC_STATICW, WS_CHILD | WS_VISIBLE | WS_GROUP | SS_LEFT | accessKeyStyle(control)},
-             parent.handle(), parent.look()) {
+             parent) {
   mirrorControl(control, *this, unlessEmpty(control));
   follow(control, *this, [this, &control] {
     const std::wstring shown = shownCaption(control);
@@ -68,7 +68,7 @@ LabelWindow::LabelWindow(controls::Label& control, Pane& parent)
 
 // A little more than what was measured: letters may hang over the end of their line.
 Size LabelWindow::natural() const {
-  const bool plain = (GetWindowLongPtrW(handle(), GWL_STYLE) & SS_NOPREFIX) != 0;
+  const bool plain = (style() & SS_NOPREFIX) != 0;
   const Size words = look().textSize(caption(), font(), plain ? DT_NOPREFIX : 0);
   return {words.width + look().scaled(2), words.height};
 }
@@ -76,7 +76,7 @@ Size LabelWindow::natural() const {
 LineWindow::LineWindow(controls::Label& control, Pane& parent)
     : Window({WC_STATICW, WS_CHILD | WS_VISIBLE | SS_LEFTNOWORDWRAP | SS_NOPREFIX |
                               SS_PATHELLIPSIS | SS_CENTERIMAGE},
-             parent.handle(), parent.look()) {
+             parent) {
   mirrorControl(control, *this);
   follow(control, *this,
          [this, &control] { setCaption(inOneLine(plainCaption(control.caption()))); });
@@ -85,8 +85,7 @@ LineWindow::LineWindow(controls::Label& control, Pane& parent)
 Size LineWindow::natural() const { return {look().letters(8), look().lineHeight()}; }
 
 LinkWindow::LinkWindow(controls::Label& control, Pane& parent)
-    : Window({WC_BUTTONW, WS_CHILD | WS_VISIBLE | WS_GROUP | WS_TABSTOP | BS_OWNERDRAW},
-             parent.handle(), parent.look()),
+    : Window({WC_BUTTONW, WS_CHILD | WS_VISIBLE | WS_GROUP | WS_TABSTOP | BS_OWNERDRAW}, parent),
       control_(control) {
   setFont(Font::link);
   mirrorControl(control, *this, unlessEmpty(control));
@@ -101,7 +100,7 @@ LinkWindow::LinkWindow(controls::Label& control, Pane& parent)
 
 Size LinkWindow::natural() const {
   const Size words = look().textSize(caption(), font(), DT_NOPREFIX);
-  return {words.width + look().scaled(8), words.height + look().scaled(2)};
+  return {words.width + look().scaled(2), words.height + look().scaled(2)};
 }
 
 void LinkWindow::onCommand(WORD code) {

@@ -12,29 +12,42 @@ namespace zelvane::win32 {
 ListViewWindow::ListViewWindow(controls::ListView& control, Pane& parent)
     : Window({WC_LISTVIEWW, WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER | LVS_REPORT |
                                 LVS_SINGLESEL | LVS_SHOWSELALWAYS | LVS_NOSORTHEADER},
-             parent.handle(), parent.look()),
+             parent),
       control_(control) {
+  whenMade([this] {
+    addColumns();
+    shareWidth();
+  });
+  mirrorControl(control, *this);
+  followOnceMade(control, *this, [this] { showRows(); });
+}
+
+Size ListViewWindow::natural() const { return {look().letters(40), look().lineHeight() * 6}; }
+
+void ListViewWindow::place(const Area& area) {
+  Window::place(area);
+  if (isMade()) {
+    shareWidth();
+  }
+}
+
+void ListViewWindow::addColumns() {
   constexpr DWORD kStyle = LVS_EX_FULLROWSELECT | LVS_EX_LABELTIP | LVS_EX_DOUBLEBUFFER;
   ListView_SetExtendedListViewStyleEx(handle(), kStyle, kStyle);
-  for (std::size_t at = 0; at < control.columns().size(); ++at) {
-    std::wstring heading = platform::wideText(control.columns()[at]);
+  for (std::size_t at = 0; at < control_.columns().size(); ++at) {
+    std::wstring heading = platform::wideText(control_.columns()[at]);
     LVCOLUMNW column{};
     column.mask = LVCF_TEXT | LVCF_WIDTH;
     column.pszText = heading.data();
     SendMessageW(handle(), LVM_INSERTCOLUMNW, at, reinterpret_cast<LPARAM>(&column));
   }
-  mirrorControl(control, *this);
-  follow(control, *this, [this] { showRows(); });
 }
 
-Size ListViewWindow::natural() const { return {look().letters(40), look().lineHeight() * 6}; }
-
 // The last column is for short texts, the others share the rest.
-void ListViewWindow::place(const Area& area) {
-  Window::place(area);
+void ListViewWindow::shareWidth() {
   const auto columns = static_cast<int>(control_.columns().size());
   const int room =
-      area.width - GetSystemMetricsForDpi(SM_CXVSCROLL, look().dpi()) - look().scaled(2);
+      area().width - GetSystemMetricsForDpi(SM_CXVSCROLL, look().dpi()) - look().scaled(2);
   const int last = std::min(look().letters(18), room / columns);
   for (int column = 0; column < columns; ++column) {
     const bool isLast = column == columns - 1;

@@ -14,6 +14,8 @@ class ListViewWindow : public Window {
   void place(const Area& area) override;
 
  private:
+  void addColumns();
+  void shareWidth();
   void showRows();
 
   const controls::ListView& control_;

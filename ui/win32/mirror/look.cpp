@@ -4,24 +4,6 @@ namespace zelvane::win32 {
 
 namespace {
 
-// The screen to measure on, with a font.
-class Screen {
- public:
-  explicit Screen(HFONT font) : before_(SelectObject(screen_, font)) {}
-  ~Screen() {
-    SelectObject(screen_, before_);
-    ReleaseDC(nullptr, screen_);
-  }
-  Screen(const Screen&) = delete;
-  Screen& operator=(const Screen&) = delete;
-
-  operator HDC() const { return screen_; }
-
- private:
-  HDC screen_ = GetDC(nullptr);
-  HGDIOBJ before_;
-};
-
 LOGFONTW messageFont(UINT dpi) {
   NONCLIENTMETRICSW metrics{};
   metrics.cbSize = sizeof metrics;
@@ -55,6 +37,11 @@ void Look::setDpi(UINT dpi) {
   lineHeight_ = alphabet.height;
   letterWidth_ = (alphabet.width + 13) / static_cast<int>(letters.size());
   indent_ = scaled(14) + textSize(L"0", Font::normal).width / 2;
+}
+
+// The system puts a text at the top of its room, so that the room is no higher than looks well.
+int Look::fieldHeight() const {
+  return lineHeight_ + 2 * GetSystemMetricsForDpi(SM_CYEDGE, dpi_) + scaled(4);
 }
 
 int Look::length(Gap gap) const {
@@ -91,11 +78,12 @@ Size Look::textSize(const std::wstring& text, Font font, UINT flags, int width) 
 
 Size Look::measured(const Question& question) const {
   const auto& [text, font, flags, width] = question;
-  const Screen screen(this->font(font));
+  const HGDIOBJ before = SelectObject(surface_.get(), this->font(font));
   RECT room{0, 0, width, 0};
   const UINT breaks = width == 0 ? 0 : DT_WORDBREAK;
-  DrawTextW(screen, text.data(), static_cast<int>(text.size()), &room,
+  DrawTextW(surface_.get(), text.data(), static_cast<int>(text.size()), &room,
             flags | breaks | DT_CALCRECT | DT_EXPANDTABS);
+  SelectObject(surface_.get(), before);
   return {room.right, room.bottom};
 }
 

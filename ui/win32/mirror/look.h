@@ -53,6 +53,9 @@ class Look {
   int scaled(int at96Dpi) const { return MulDiv(at96Dpi, static_cast<int>(dpi_), 96); }
   int length(Gap gap) const;
 
+  // Of a box for one line: a text, a day, a choice. They stand below each other.
+  int fieldHeight() const;
+
   // What a text takes that is drawn with `flags` of DrawText; with line breaks at words where it is
   // wider than `width`, unless that is 0. Layouts ask again and again for the same few, so what was
   // measured is kept.
@@ -66,11 +69,17 @@ class Look {
     void operator()(HFONT font) const { DeleteObject(font); }
   };
   using OwnedFont = std::unique_ptr<std::remove_pointer_t<HFONT>, DeleteFont>;
+  struct DeleteSurface {
+    void operator()(HDC surface) const { DeleteDC(surface); }
+  };
+  using OwnedSurface = std::unique_ptr<std::remove_pointer_t<HDC>, DeleteSurface>;
 
   using Question = std::tuple<std::wstring, Font, UINT, int>;
 
   Size measured(const Question& question) const;
 
+  // To measure on. The screen itself would have to be asked for, and given back, for every text.
+  OwnedSurface surface_{CreateCompatibleDC(nullptr)};
   UINT dpi_ = USER_DEFAULT_SCREEN_DPI;
   std::array<OwnedFont, 5> fonts_;
   int lineHeight_ = 0;

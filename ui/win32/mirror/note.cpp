@@ -20,8 +20,7 @@ COLORREF between(COLORREF text, COLORREF background) {
 }  // namespace
 
 Note::Note(Pane& parent)
-    : Window({WC_STATICW, WS_CHILD | WS_VISIBLE | SS_LEFT | SS_NOPREFIX}, parent.handle(),
-             parent.look()) {}
+    : Window({WC_STATICW, WS_CHILD | WS_VISIBLE | SS_LEFT | SS_NOPREFIX}, parent) {}
 
 Size Note::natural() const {
   const Size words = look().textSize(caption(), font(), DT_NOPREFIX);
@@ -40,8 +39,7 @@ HBRUSH Note::onColours(HDC surface) {
 }
 
 Heading::Heading(Font font, Pane& parent)
-    : Window({WC_STATICW, WS_CHILD | WS_VISIBLE | SS_LEFT | SS_NOPREFIX}, parent.handle(),
-             parent.look()) {
+    : Window({WC_STATICW, WS_CHILD | WS_VISIBLE | SS_LEFT | SS_NOPREFIX}, parent) {
   setFont(font);
 }
 

@@ -9,20 +9,10 @@
 
 namespace zelvane::win32 {
 
-namespace {
-
-void setStyle(const Window& window, LONG_PTR style, bool on) {
-  const LONG_PTR before = GetWindowLongPtrW(window.handle(), GWL_STYLE);
-  SetWindowLongPtrW(window.handle(), GWL_STYLE, on ? before | style : before & ~style);
-}
-
-}  // namespace
-
 OptionButtonWindow::OptionButtonWindow(controls::OptionButton& control, Pane& parent)
-    : Window({WC_BUTTONW, WS_CHILD | WS_VISIBLE | BS_RADIOBUTTON}, parent.handle(), parent.look()),
-      control_(control) {
+    : Window({WC_BUTTONW, WS_CHILD | WS_VISIBLE | BS_RADIOBUTTON}, parent), control_(control) {
   mirrorCaptioned(control, *this);
-  follow(control, *this, [this] {
+  followOnceMade(control, *this, [this] {
     SendMessageW(handle(), BM_SETCHECK, control_.value() ? BST_CHECKED : BST_UNCHECKED, 0);
   });
 }
@@ -37,12 +27,12 @@ void OptionButtonWindow::onCommand(WORD code) {
 
 void groupTogether(const std::vector<controls::OptionButton*>& controls,
                    const std::vector<OptionButtonWindow*>& windows) {
-  setStyle(*windows.front(), WS_GROUP, true);
+  windows.front()->setStyle(WS_GROUP, true);
   const auto moveStop = [controls, windows] {
     const auto selected = std::ranges::find_if(controls, &controls::OptionButton::value);
     const auto stop = selected == controls.end() ? 0 : selected - controls.begin();
     for (std::size_t at = 0; at < windows.size(); ++at) {
-      setStyle(*windows[at], WS_TABSTOP, static_cast<std::ptrdiff_t>(at) == stop);
+      windows[at]->setStyle(WS_TABSTOP, static_cast<std::ptrdiff_t>(at) == stop);
     }
   };
   for (controls::OptionButton* control : controls) {

@@ -6,15 +6,41 @@
 
 namespace zelvane::win32 {
 
-Pane::Pane(Pane& parent)
-    : Window({kPaneClass, WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT},
-             parent.handle(), parent.look()),
+Pane::Pane(Pane& parent, DWORD style, Making making)
+    : Window({kPaneClass, WS_CHILD | WS_CLIPCHILDREN | style, WS_EX_CONTROLPARENT}, parent, making),
       body_(Box::Lie::column, Gap::large, look()) {}
 
 Pane::Pane(const Make& make, Look& look)
     : Window(make, nullptr, look), body_(Box::Lie::column, Gap::large, look) {}
 
+void Pane::makeAfter(const Window& first, const Window& after) {
+  const auto at = [this](const Window& window) {
+    return std::ranges::find(children_, &window, &std::unique_ptr<Window>::get);
+  };
+  const auto late = at(first);
+  const auto early = at(after);
+  if (early < late) {
+    std::rotate(early, early + 1, late + 1);
+  }
+}
+
+void Pane::makeBelow() {
+  for (const auto& child : children_) {
+    child->makeWindow();
+  }
+}
+
+void Pane::visit(const std::function<void(Window&)>& visitor) {
+  Window::visit(visitor);
+  for (const auto& child : children_) {
+    child->visit(visitor);
+  }
+}
+
 Size Pane::inside() const {
+  if (!isMade()) {
+    return {area().width, area().height};
+  }
   RECT client{};
   GetClientRect(handle(), &client);
   return {client.right, client.bottom};
@@ -29,7 +55,13 @@ void Pane::place(const Area& area) {
 void Pane::layOut() {
   const Size room = inside();
   body_.place({0, 0, room.width, room.height});
-  InvalidateRect(handle(), nullptr, TRUE);
+  drawAnew();
+}
+
+void Pane::drawAnew() const {
+  if (isMade()) {
+    InvalidateRect(handle(), nullptr, TRUE);
+  }
 }
 
 void Pane::onLookChanged() {
@@ -109,29 +141,34 @@ LRESULT Pane::onMessage(UINT message, WPARAM word, LPARAM value) {
   return Window::onMessage(message, word, value);
 }
 
-ScrollPane::ScrollPane(Pane& parent) : Pane(parent) {
-  SetWindowLongPtrW(handle(), GWL_STYLE,
-                    GetWindowLongPtrW(handle(), GWL_STYLE) & ~static_cast<LONG_PTR>(WS_VISIBLE));
+ScrollPane::ScrollPane(Pane& parent) : Pane(parent, 0, Making::later) {
+  whenMade([this] { layOut(); });
 }
 
 void ScrollPane::layOut() {
   const Size room = inside();
   const int barWidth = GetSystemMetricsForDpi(SM_CXVSCROLL, look().dpi());
-  const bool hasBar = (GetWindowLongPtrW(handle(), GWL_STYLE) & WS_VSCROLL) != 0;
+  const bool hasBar = (style() & WS_VSCROLL) != 0;
   const int whole = room.width + (hasBar ? barWidth : 0);
   const bool needsBar = body().heightFor(whole) > room.height;
   const int width = needsBar ? whole - barWidth : whole;
   const int height = std::max(body().heightFor(width), room.height);
   top_ = std::clamp(top_, 0, height - room.height);
+  if (isMade()) {
+    showBar(height, room.height);
+  }
+  body().place({0, -top_, width, height});
+  drawAnew();
+}
+
+void ScrollPane::showBar(int height, int seen) {
   SCROLLINFO bar{};
   bar.cbSize = sizeof bar;
   bar.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
   bar.nMax = std::max(height - 1, 0);
-  bar.nPage = static_cast<UINT>(std::max(room.height, 0));
+  bar.nPage = static_cast<UINT>(std::max(seen, 0));
   bar.nPos = top_;
   SetScrollInfo(handle(), SB_VERT, &bar, TRUE);
-  body().place({0, -top_, width, height});
-  InvalidateRect(handle(), nullptr, TRUE);
 }
 
 void ScrollPane::scrollTo(int top) {

@@ -1,6 +1,7 @@
 // A window that holds others, and lays them out.
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <utility>
 #include <vector>
@@ -14,7 +15,7 @@ namespace zelvane::win32 {
 class Pane : public Window {
  public:
   // Inside another one.
-  explicit Pane(Pane& parent);
+  explicit Pane(Pane& parent) : Pane(parent, WS_VISIBLE, Making::now) {}
 
   // Makes a window in this pane, with `this` as the last argument.
   template <typename Made, typename... Arguments>
@@ -24,6 +25,10 @@ class Pane : public Window {
     children_.push_back(std::move(made));
     return window;
   }
+
+  // Of two windows in this pane that are not made yet: `after` will not be made before `first`.
+  // The keys visit windows in the order in which they were made.
+  void makeAfter(const Window& first, const Window& after);
 
   // What it shows, top to bottom.
   Box& body() { return body_; }
@@ -40,14 +45,21 @@ class Pane : public Window {
   virtual void layOut();
 
   void onLookChanged() override;
+  void visit(const std::function<void(Window&)>& visitor) override;
 
  protected:
+  // Inside another one, and made later where `making` says so.
+  Pane(Pane& parent, DWORD style, Making making);
   // A window on its own.
   Pane(const Make& make, Look& look);
+
+  void makeBelow() override;
+  const std::vector<std::unique_ptr<Window>>& children() const { return children_; }
 
   LRESULT onMessage(UINT message, WPARAM word, LPARAM value) override;
 
   Size inside() const;
+  void drawAnew() const;
 
  private:
   HBRUSH answerColours(HDC surface, HWND child) const;
@@ -59,7 +71,8 @@ class Pane : public Window {
   std::vector<std::unique_ptr<Window>> children_;
 };
 
-// A page: where it is lower than what stands on it, it scrolls, and follows the keys.
+// A page: where it is lower than what stands on it, it scrolls, and follows the keys. It is made
+// when somebody wants to see it, and hidden until then.
 class ScrollPane : public Pane {
  public:
   explicit ScrollPane(Pane& parent);
@@ -71,6 +84,7 @@ class ScrollPane : public Pane {
   LRESULT onMessage(UINT message, WPARAM word, LPARAM value) override;
 
  private:
+  void showBar(int height, int seen);
   void scrollTo(int top);
   int wanted(WORD action) const;
 

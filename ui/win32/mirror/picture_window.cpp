@@ -20,9 +20,7 @@ const wchar_t* meaning(Image image) {
 }  // namespace
 
 IconWindow::IconWindow(const wchar_t* resource, int side, Pane& parent)
-    : Window({kPaneClass, WS_CHILD | WS_VISIBLE}, parent.handle(), parent.look()),
-      resource_(resource),
-      side_(side) {}
+    : Window({kPaneClass, WS_CHILD | WS_VISIBLE}, parent), resource_(resource), side_(side) {}
 
 Size IconWindow::natural() const { return {look().scaled(side_), look().scaled(side_)}; }
 
@@ -55,7 +53,7 @@ LRESULT IconWindow::onMessage(UINT message, WPARAM word, LPARAM value) {
 
 PictureWindow::PictureWindow(controls::Picture& control, int side, Pane& parent)
     : IconWindow(resource(control.image()), side, parent) {
-  setSpokenName(handle(), meaning(control.image()));
+  setSpokenName(*this, meaning(control.image()));
   mirrorControl(control, *this);
 }
 

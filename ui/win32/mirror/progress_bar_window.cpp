@@ -9,11 +9,11 @@
 namespace zelvane::win32 {
 
 ProgressBarWindow::ProgressBarWindow(controls::ProgressBar& control, Pane& parent)
-    : Window({PROGRESS_CLASSW, WS_CHILD | WS_VISIBLE}, parent.handle(), parent.look()) {
+    : Window({PROGRESS_CLASSW, WS_CHILD | WS_VISIBLE}, parent) {
   constexpr int kWhole = 1000;
-  SendMessageW(handle(), PBM_SETRANGE32, 0, kWhole);
+  whenMade([this] { SendMessageW(handle(), PBM_SETRANGE32, 0, kWhole); });
   mirrorControl(control, *this);
-  follow(control, *this, [this, &control] {
+  followOnceMade(control, *this, [this, &control] {
     SendMessageW(handle(), PBM_SETPOS,
                  static_cast<WPARAM>(std::lround(control.fraction() * kWhole)), 0);
   });

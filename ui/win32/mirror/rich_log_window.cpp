@@ -31,18 +31,20 @@ const wchar_t* richEditClass() {
 RichLogWindow::RichLogWindow(controls::RichLog& control, Pane& parent)
     : Window({richEditClass(), WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_VSCROLL | WS_BORDER |
                                    ES_MULTILINE | ES_READONLY | ES_AUTOVSCROLL | ES_NOHIDESEL},
-             parent.handle(), parent.look()),
+             parent),
       control_(control) {
-  SendMessageW(handle(), EM_EXLIMITTEXT, 0, 0x7FFFFFFE);
-  SendMessageW(handle(), EM_SETUNDOLIMIT, 0, 0);
+  whenMade([this] {
+    SendMessageW(handle(), EM_EXLIMITTEXT, 0, 0x7FFFFFFE);
+    SendMessageW(handle(), EM_SETUNDOLIMIT, 0, 0);
+    startAnew();
+  });
   mirrorControl(control, *this);
-  control.cleared.connect([this, window = handle()] {
-    if (Window::of(window) == this) {
+  whileAlive(control.cleared, *this, [this] {
+    if (isMade()) {
       startAnew();
     }
   });
-  startAnew();
-  follow(control, *this, [this] { showNewRuns(); });
+  followOnceMade(control, *this, [this] { showNewRuns(); });
 }
 
 COLORREF RichLogWindow::shade(controls::RichLog::Colour colour, COLORREF background) {
@@ -54,8 +56,10 @@ Size RichLogWindow::natural() const { return {look().letters(30), look().lineHei
 
 void RichLogWindow::onLookChanged() {
   Window::onLookChanged();
-  startAnew();
-  showNewRuns();
+  if (isMade()) {
+    startAnew();
+    showNewRuns();
+  }
 }
 
 LRESULT RichLogWindow::onMessage(UINT message, WPARAM word, LPARAM value) {

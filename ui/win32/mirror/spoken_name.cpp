@@ -20,8 +20,8 @@ void setProperty(HWND window, const MSAAPROPID& property, const std::wstring& te
 
 }  // namespace
 
-void setSpokenName(HWND window, const std::wstring& name) {
-  setProperty(window, PROPID_ACC_NAME, name);
+void setSpokenName(Window& window, const std::wstring& name) {
+  window.whenSettled([&window, name] { setProperty(window.handle(), PROPID_ACC_NAME, name); });
 }
 
 void setSpokenDescription(HWND window, const std::wstring& description) {

@@ -8,9 +8,18 @@
 
 namespace zelvane::win32 {
 
+namespace {
+
+// A row that is too narrow for its tabs makes itself arrows to scroll by.
+constexpr int kAmple = 10'000;
+
+}  // namespace
+
 TabStripWindow::TabStripWindow(controls::TabStrip& control, Pane& parent)
-    : Window({WC_TABCONTROLW, WS_CHILD | WS_VISIBLE | WS_TABSTOP | TCS_FOCUSONBUTTONDOWN},
-             parent.handle(), parent.look()),
+    : Window({.className = WC_TABCONTROLW,
+              .style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | TCS_FOCUSONBUTTONDOWN,
+              .width = kAmple},
+             parent),
       control_(control) {
   onLookChanged();
   for (std::size_t at = 0; at < control.captions().size(); ++at) {
@@ -20,14 +29,9 @@ TabStripWindow::TabStripWindow(controls::TabStrip& control, Pane& parent)
     item.pszText = caption.data();
     SendMessageW(handle(), TCM_INSERTITEMW, at, reinterpret_cast<LPARAM>(&item));
   }
-  setSpokenName(handle(), L"Pages");
+  setSpokenName(*this, L"Pages");
   mirrorControl(control, *this);
   follow(control, *this, [this] { showPage(); });
-}
-
-void TabStripWindow::addPage(Window& page) {
-  pages_.push_back(&page);
-  showPage();
 }
 
 // The keys may be with a page that goes to the back, where they would be lost.
@@ -35,10 +39,13 @@ void TabStripWindow::showPage() {
   const auto front = static_cast<std::size_t>(control_.tab());
   TabCtrl_SetCurSel(handle(), static_cast<int>(front));
   for (std::size_t at = 0; at < pages_.size(); ++at) {
-    if (at != front && IsChild(pages_[at]->handle(), GetFocus())) {
+    Window& page = *pages_[at];
+    if (at == front) {
+      page.makeWindow();
+    } else if (page.isShown() && IsChild(page.handle(), GetFocus())) {
       SetFocus(handle());
     }
-    ShowWindow(pages_[at]->handle(), at == front ? SW_SHOWNA : SW_HIDE);
+    page.appear(at == front);
   }
 }
 

@@ -15,7 +15,11 @@ class TabStripWindow : public Window {
   TabStripWindow(controls::TabStrip& control, Pane& parent);
 
   // The page of the next caption, which outlives this.
-  void addPage(Window& page);
+  void addPage(Window& page) { pages_.push_back(&page); }
+
+  // Brings the page of the tab in front, and makes it where it is not made yet. To be called when
+  // all pages are there; from then on it follows the control.
+  void showPage();
 
   // Brings the next tab to the front, or the one before, round and round.
   void turn(int direction);
@@ -25,8 +29,6 @@ class TabStripWindow : public Window {
   std::optional<LRESULT> onNotify(const NMHDR& notice) override;
 
  private:
-  void showPage();
-
   controls::TabStrip& control_;
   std::vector<Window*> pages_;
 };

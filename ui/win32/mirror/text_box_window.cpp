@@ -12,11 +12,11 @@ TextBoxWindow::TextBoxWindow(controls::TextBox& control, Pane& parent)
               WS_CHILD | WS_VISIBLE | WS_TABSTOP | ES_AUTOHSCROLL |
                   (control.kind() == controls::TextBox::Kind::password ? DWORD{ES_PASSWORD} : 0),
               WS_EX_CLIENTEDGE},
-             parent.handle(), parent.look()),
+             parent),
       control_(control) {
-  SendMessageW(handle(), EM_SETLIMITTEXT, 0, 0);
+  whenMade([this] { SendMessageW(handle(), EM_SETLIMITTEXT, 0, 0); });
   mirrorControl(control, *this);
-  follow(control, *this, [this] {
+  followOnceMade(control, *this, [this] {
     showText();
     InvalidateRect(handle(), nullptr, TRUE);  // the background may be another
   });
@@ -31,11 +31,7 @@ void TextBoxWindow::showText() {
   }
 }
 
-// The system puts the text at the top of its room, so that the room is no higher than looks well.
-Size TextBoxWindow::natural() const {
-  const int edge = GetSystemMetricsForDpi(SM_CYEDGE, look().dpi());
-  return {look().letters(14), look().lineHeight() + 2 * edge + look().scaled(4)};
-}
+Size TextBoxWindow::natural() const { return {look().letters(14), look().fieldHeight()}; }
 
 void TextBoxWindow::onCommand(WORD code) {
   if (code == EN_CHANGE && !showing_) {

@@ -9,13 +9,21 @@ namespace zelvane::win32 {
 // The arrows have a position of their own. It stays in the middle, so that both always work: what
 // they count, and how far, is the control's to say.
 UpDownWindow::UpDownWindow(controls::UpDown& control, Window& box, Pane& parent)
-    : Window({UPDOWN_CLASSW, WS_CHILD | WS_VISIBLE | UDS_ARROWKEYS}, parent.handle(),
-             parent.look()),
-      control_(control) {
-  SendMessageW(handle(), UDM_SETRANGE32, 0, 2);
-  SendMessageW(handle(), UDM_SETPOS32, 0, 1);
-  SendMessageW(handle(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(box.handle()), 0);
+    : Window({UPDOWN_CLASSW, WS_CHILD | WS_VISIBLE | UDS_ARROWKEYS}, parent), control_(control) {
+  parent.whenMade([this, &box] {
+    SendMessageW(handle(), UDM_SETRANGE32, 0, 2);
+    SendMessageW(handle(), UDM_SETPOS32, 0, 1);
+    SendMessageW(handle(), UDM_SETBUDDY, reinterpret_cast<WPARAM>(box.handle()), 0);
+    placeAnew();
+  });
   mirrorControl(control, *this);
+}
+
+// When it is made it takes a width of its own choice.
+void UpDownWindow::placeAnew() {
+  const Area wanted = area();
+  place({});
+  place(wanted);
 }
 
 Size UpDownWindow::natural() const {

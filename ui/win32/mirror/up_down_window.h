@@ -8,13 +8,15 @@ namespace zelvane::win32 {
 
 class UpDownWindow : public Window {
  public:
-  // The arrow keys count in `box` as well, which outlives this.
+  // The arrow keys count in `box` as well, which lies in `parent` as well and outlives this.
   UpDownWindow(controls::UpDown& control, Window& box, Pane& parent);
 
   Size natural() const override;
   std::optional<LRESULT> onNotify(const NMHDR& notice) override;
 
  private:
+  void placeAnew();
+
   controls::UpDown& control_;
 };
 

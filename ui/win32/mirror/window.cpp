@@ -11,12 +11,21 @@ namespace zelvane::win32 {
 
 namespace {
 
-// Finds the object by its handle. A window that stands for a control has its name as an atom, too,
-// by which other programs (a test, say) can find it.
-constexpr auto kObject = L"Zelvane.object";
+// The property of a window that stands for a control: its name, as an atom.
 constexpr auto kControlName = L"Zelvane.control";
 
-void registerPaneClass() {
+// Asks a window for its object; no other program's message has that number. A property would answer
+// as well, but costs the system much more than a window of this thread does.
+UINT objectMessage() {
+  static const UINT kMessage = RegisterWindowMessageW(L"Zelvane.object");
+  return kMessage;
+}
+
+// What windows are made from: the system's common controls, and ours.
+bool registerClasses() {
+  const INITCOMMONCONTROLSEX common{sizeof common,
+                                    ICC_STANDARD_CLASSES | ICC_WIN95_CLASSES | ICC_DATE_CLASSES};
+  InitCommonControlsEx(&common);
   WNDCLASSEXW windowClass{};
   windowClass.cbSize = sizeof windowClass;
   windowClass.lpfnWndProc = DefWindowProcW;
@@ -24,23 +33,70 @@ void registerPaneClass() {
   windowClass.hIcon = LoadIconW(windowClass.hInstance, L"application");
   windowClass.hCursor = LoadCursorW(nullptr, IDC_ARROW);
   windowClass.lpszClassName = kPaneClass;
-  RegisterClassExW(&windowClass);  // fails harmlessly from the second time on
+  return RegisterClassExW(&windowClass) != 0;
 }
 
 }  // namespace
 
 const wchar_t* const kPaneClass = L"Zelvane.pane";
 
-Window::Window(const Make& make, HWND parent, Look& look) : look_(look) {
-  registerPaneClass();
-  handle_ = CreateWindowExW(make.extendedStyle, make.className, L"", make.style, 0, 0, 0, 0, parent,
-                            nullptr, GetModuleHandleW(nullptr), nullptr);
+Window::Window(const Make& make, Window& above, Making making)
+    : make_(make), above_(&above), look_(above.look()), place_{.width = make.width} {
+  if (above.isMade() && making == Making::now) {
+    makeHandle(above.handle());
+  }
+}
+
+Window::Window(const Make& make, HWND parent, Look& look) : make_(make), look_(look) {
+  makeHandle(parent);
+}
+
+void Window::makeHandle(HWND parent) {
+  // For the whole process, as the system keeps it.
+  [[maybe_unused]] static const bool kRegistered = registerClasses();
+  handle_ = CreateWindowExW(make_.extendedStyle, make_.className, caption_.c_str(), make_.style,
+                            place_.left, place_.top, place_.width, place_.height, parent,
+                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(number_)),
+                            GetModuleHandleW(nullptr), nullptr);
   if (handle_ == nullptr) {
     platform::throwSystemError();
   }
-  SetPropW(handle_, kObject, this);
-  SetWindowSubclass(handle_, deliver, 0, reinterpret_cast<DWORD_PTR>(this));
-  setFont(Font::normal);
+  SetWindowLongPtrW(handle_, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+  ofClass_ = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrW(handle_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(deliver)));
+  SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(look_.font(font_)), FALSE);
+}
+
+void Window::makeWindow() {
+  if (!isMade()) {
+    makeHandle(above_->handle());
+  }
+  makeBelow();
+  for (const auto& act : std::exchange(whenMade_, {})) {
+    act();
+  }
+}
+
+void Window::whenMade(std::function<void()> act) {
+  if (isMade()) {
+    act();
+  } else {
+    whenMade_.push_back(std::move(act));
+  }
+}
+
+void Window::whenSettled(std::function<void()> act) {
+  if (isSettled()) {
+    act();
+  } else {
+    whenSettled_.push_back(std::move(act));
+  }
+}
+
+void Window::settle() {
+  for (const auto& act : std::exchange(whenSettled_, {})) {
+    act();
+  }
 }
 
 Window::~Window() { destroy(); }
@@ -52,32 +108,49 @@ void Window::destroy() {
 }
 
 Window* Window::of(HWND handle) {
-  return handle == nullptr ? nullptr : static_cast<Window*>(GetPropW(handle, kObject));
+  if (handle == nullptr || GetWindowThreadProcessId(handle, nullptr) != GetCurrentThreadId()) {
+    return nullptr;
+  }
+  return reinterpret_cast<Window*>(SendMessageW(handle, objectMessage(), 0, 0));
 }
 
 Window* Window::find(HWND above, const std::string& controlName) {
-  struct Search {
-    const std::string& name;
-    Window* found;
-  } search{controlName, nullptr};
-  EnumChildWindows(
-      above,
-      [](HWND child, LPARAM parameter) -> BOOL {
-        auto& sought = *reinterpret_cast<Search*>(parameter);
-        Window* window = of(child);
-        const bool hit = window != nullptr && window->control() != nullptr &&
-                         window->control()->name() == sought.name;
-        sought.found = hit ? window : nullptr;
-        return hit ? FALSE : TRUE;
-      },
-      reinterpret_cast<LPARAM>(&search));
-  return search.found;
+  Window* top = of(above);
+  Window* found = nullptr;
+  if (top != nullptr) {
+    top->visit([&](Window& window) {
+      if (found == nullptr && window.control() != nullptr &&
+          window.control()->name() == controlName) {
+        found = &window;
+      }
+    });
+  }
+  if (found != nullptr && !found->isMade()) {
+    top->makeWindow();
+  }
+  return found;
 }
 
 void Window::setControl(const controls::Control& control) {
   control_ = &control;
-  const ATOM name = GlobalAddAtomW(platform::wideText(control.name()).c_str());
+  if (isSettled()) {
+    showControlName();
+  }
+}
+
+void Window::showControlName() {
+  if (control_ == nullptr) {
+    return;
+  }
+  const ATOM name = GlobalAddAtomW(platform::wideText(control_->name()).c_str());
   SetPropW(handle_, kControlName, reinterpret_cast<HANDLE>(static_cast<ULONG_PTR>(name)));
+}
+
+void Window::setNumber(int number) {
+  number_ = number;
+  if (isMade()) {
+    SetWindowLongPtrW(handle_, GWLP_ID, number);
+  }
 }
 
 void Window::place(const Area& area) {
@@ -85,8 +158,23 @@ void Window::place(const Area& area) {
     return;
   }
   place_ = area;
-  SetWindowPos(handle_, nullptr, area.left, area.top, area.width, area.height,
-               SWP_NOZORDER | SWP_NOACTIVATE);
+  if (isMade()) {
+    SetWindowPos(handle_, nullptr, area.left, area.top, area.width, area.height,
+                 SWP_NOZORDER | SWP_NOACTIVATE);
+  }
+}
+
+DWORD Window::style() const {
+  return isMade() ? static_cast<DWORD>(GetWindowLongPtrW(handle_, GWL_STYLE)) : make_.style;
+}
+
+void Window::setStyle(DWORD bits, bool on) {
+  const DWORD style = on ? this->style() | bits : this->style() & ~bits;
+  if (isMade()) {
+    SetWindowLongPtrW(handle_, GWL_STYLE, static_cast<LONG_PTR>(style));
+  } else {
+    make_.style = style;
+  }
 }
 
 void Window::setShown(bool shown) {
@@ -94,29 +182,55 @@ void Window::setShown(bool shown) {
     if (!shown) {
       passKeysOn();
     }
-    ShowWindow(handle_, shown ? SW_SHOWNA : SW_HIDE);
+    appear(shown);
     askForLayout();
   }
 }
 
+void Window::appear(bool shown) {
+  if (shown == isShown()) {
+    return;
+  }
+  if (isMade()) {
+    ShowWindow(handle_, shown ? SW_SHOWNA : SW_HIDE);
+  } else {
+    setStyle(WS_VISIBLE, shown);
+  }
+}
+
 void Window::setUsable(bool usable) {
+  if (usable == isUsable()) {
+    return;
+  }
   if (!usable) {
     passKeysOn();
   }
-  EnableWindow(handle_, usable ? TRUE : FALSE);
+  if (isMade()) {
+    EnableWindow(handle_, usable ? TRUE : FALSE);
+  } else {
+    setStyle(WS_DISABLED, !usable);
+  }
 }
 
 // The system leaves the keys with a window that cannot be used any more, where they are lost.
 void Window::passKeysOn() {
-  if (GetFocus() == handle_) {
+  if (isMade() && GetFocus() == handle_ && IsWindowVisible(handle_) != FALSE) {
     const HWND root = GetAncestor(handle_, GA_ROOT);
     const HWND next = GetNextDlgTabItem(root, handle_, FALSE);
     SetFocus(next == handle_ ? root : next);
   }
 }
 
-void Window::askForLayout() const {
-  PostMessageW(GetAncestor(handle_, GA_ROOT), kLayoutMessage, 0, 0);
+void Window::askForLayout() {
+  if (above_ != nullptr) {
+    above_->askForLayout();
+  }
+}
+
+void Window::setTip(HWND tool, const std::wstring& text) {
+  if (above_ != nullptr) {
+    above_->setTip(tool, text);
+  }
 }
 
 std::wstring Window::text() const {
@@ -129,38 +243,40 @@ std::wstring Window::text() const {
 void Window::setCaption(const std::wstring& caption) {
   if (caption != caption_) {
     caption_ = caption;
-    SetWindowTextW(handle_, caption.c_str());
+    if (isMade()) {
+      SetWindowTextW(handle_, caption.c_str());
+    }
   }
 }
 
 void Window::setFont(Font font) {
   font_ = font;
-  SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(look_.font(font)), TRUE);
+  if (isMade()) {
+    SendMessageW(handle_, WM_SETFONT, reinterpret_cast<WPARAM>(look_.font(font)), TRUE);
+  }
 }
 
 void Window::onLookChanged() { setFont(font_); }
 
 LRESULT Window::onMessage(UINT message, WPARAM word, LPARAM value) {
   if (message == WM_SETFOCUS) {
-    for (HWND above = GetParent(handle_); above != nullptr; above = GetParent(above)) {
-      if (Window* window = of(above)) {
-        window->onFocusBelow(handle_);
-      }
+    for (Window* window = above_; window != nullptr; window = window->above_) {
+      window->onFocusBelow(handle_);
     }
   }
-  return DefSubclassProc(handle_, message, word, value);
+  return CallWindowProcW(ofClass_, handle_, message, word, value);
 }
 
-LRESULT CALLBACK Window::deliver(HWND handle, UINT message, WPARAM word, LPARAM value,
-                                 UINT_PTR /*id*/, DWORD_PTR object) {
-  auto& window = *reinterpret_cast<Window*>(object);
+LRESULT CALLBACK Window::deliver(HWND handle, UINT message, WPARAM word, LPARAM value) {
+  auto& window = *reinterpret_cast<Window*>(GetWindowLongPtrW(handle, GWLP_USERDATA));
   if (message == WM_NCDESTROY) {
-    RemovePropW(handle, kObject);
     GlobalDeleteAtom(
         static_cast<ATOM>(reinterpret_cast<ULONG_PTR>(RemovePropW(handle, kControlName))));
-    RemoveWindowSubclass(handle, deliver, 0);
     window.handle_ = nullptr;
-    return DefSubclassProc(handle, message, word, value);
+    return CallWindowProcW(window.ofClass_, handle, message, word, value);
+  }
+  if (message == objectMessage()) {
+    return reinterpret_cast<LRESULT>(&window);
   }
   return window.onMessage(message, word, value);
 }

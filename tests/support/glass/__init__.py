@@ -1,0 +1,1 @@
+"""A searching glass for the traces that browsers leave. See README.md."""

@@ -1,0 +1,90 @@
+"""A web server on this machine, for every host name: each test registers what it serves."""
+
+import http.server
+import threading
+import urllib.parse
+
+from desktop.waiting import PATIENCE, TookTooLong
+
+
+class Answer:
+    def __init__(self, body, kind="text/html; charset=utf-8", headers=(), status=200):
+        self.body = body.encode() if isinstance(body, str) else body
+        self.kind = kind
+        self.headers = dict(headers)
+        self.status = status
+
+
+class Server:
+    """Runs as long as the `with` block lasts. `visited` are all addresses that were asked for."""
+
+    def __init__(self):
+        self._answers = {}
+        self._told = set()
+        self._changed = threading.Condition()
+        self.visited = set()
+        self._http = http.server.ThreadingHTTPServer(("127.0.0.1", 0), self._handler())
+        self._http.daemon_threads = True
+        self.port = self._http.server_port
+
+    def __enter__(self):
+        threading.Thread(target=self._http.serve_forever, daemon=True).start()
+        return self
+
+    def __exit__(self, *reason):
+        self._http.shutdown()
+        self._http.server_close()
+
+    def serve(self, host, path, answer):
+        """`answer` is one, or a function that makes it from the request's headers. Returns the
+        address."""
+        self._answers[f"{host}:{self.port}", path] = answer
+        return f"http://{host}:{self.port}{path}"
+
+    def wait_for(self, event, seconds=PATIENCE):
+        """Waits until a page has fetched "/told/EVENT" from any host, each event once."""
+        with self._changed:
+            if not self._changed.wait_for(lambda: event in self._told, seconds):
+                raise TookTooLong(f"{seconds} s were not enough: a page tells \"{event}\"; "
+                                  f"told: {sorted(self._told)}")
+
+    def has_been_told(self, event):
+        with self._changed:
+            return event in self._told
+
+    def _answer(self, host, target, headers):
+        path = urllib.parse.urlsplit(target).path
+        with self._changed:
+            if path.startswith("/told/"):
+                self._told.add(path.removeprefix("/told/"))
+                self._changed.notify_all()
+                return Answer("", headers={"Cache-Control": "no-store"})
+            self.visited.add(f"http://{host}{target}")
+        answer = self._answers.get((host, path)) or self._answers.get((host, "*"))
+        return answer(headers) if callable(answer) else answer or Answer("none", status=404)
+
+    def _handler(self):
+        server = self
+
+        class Handler(http.server.BaseHTTPRequestHandler):
+            protocol_version = "HTTP/1.1"
+
+            def do_GET(self):
+                answer = server._answer(self.headers["Host"], self.path, self.headers)
+                self.send_response(answer.status)
+                self.send_header("Content-Type", answer.kind)
+                self.send_header("Content-Length", str(len(answer.body)))
+                for name, value in answer.headers.items():
+                    for one in value if isinstance(value, list) else [value]:
+                        self.send_header(name, one)
+                self.end_headers()
+                self.wfile.write(answer.body)
+
+            def do_POST(self):
+                self.rfile.read(int(self.headers["Content-Length"] or 0))
+                self.do_GET()
+
+            def log_message(self, *arguments):
+                pass
+
+        return Handler
