@@ -40,9 +40,10 @@ fixFormat() {
   everySource | xargs clang-format-14 -i
 }
 
-# Those of another system cannot be read here: its headers are not there.
+# Headers are read with the sources that include them. Those of another system cannot be read here: its
+# headers are not there.
 ofThisSystem() {
-  grep -Ev '(^|/)(windows|win32)/|_windows\.(cpp|h)$' || true
+  grep '\.cpp$' | grep -Ev '(^|/)(windows|win32)/|_windows(_test)?\.cpp$' || true
 }
 
 # checkTidy NAME [OPTION...]: the sources named on standard input.

@@ -53,7 +53,8 @@ bool isLockedElsewhere(const std::string& root) {
   if (dash == std::string::npos) return false;
   std::string host(HOST_NAME_MAX + 1, '\0');
   gethostname(host.data(), host.size());
-  return owner.substr(0, dash) != host.c_str();
+  host.resize(host.find('\0'));
+  return owner.substr(0, dash) != host;
 }
 
 bool isAnyInUse(const std::string& folder) {

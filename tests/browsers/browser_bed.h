@@ -5,6 +5,8 @@
 #include <string>
 #include <string_view>
 
+#include <gtest/gtest.h>
+
 #include "cleaner/erasure.h"
 #include "platform/memory/memory_event_pump.h"
 #include "platform/shared/browsers/browser.h"

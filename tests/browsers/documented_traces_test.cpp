@@ -56,14 +56,16 @@ std::string table(const FamilyRules& rules, const Option& option) {
     if (rule.trace == option.trace) rows += listed(rule.name, rule.patterns);
   }
   for (const auto& rule : rules.json) {
-    if (rule.trace == option.trace)
+    if (rule.trace == option.trace) {
       rows += "| " + std::string(rule.name) + " | " + code(rule.file) + ": " +
               listed("", rule.members).substr(5);
+    }
   }
   for (const auto& rule : rules.levelDbs) {
-    if (rule.trace == option.trace)
+    if (rule.trace == option.trace) {
       rows += "| " + std::string(rule.name) + " | " + code(rule.folder) +
               ", but what belongs to extensions |\n";
+    }
   }
   for (const auto& rule : rules.folders) {
     if (rule.trace != option.trace) continue;

@@ -107,7 +107,8 @@ void listForFirefox(const std::string& root, const std::vector<std::string>& pat
 void listForChromium(const std::string& root, const std::vector<std::string>& names) {
   std::string members;
   for (const std::string& name : names) {
-    members += (members.empty() ? "\"" : ", \"") + name + "\": {\"name\": \"" + name + "\"}";
+    members.append(members.empty() ? "\"" : ", \"").append(name);
+    members.append("\": {\"name\": \"").append(name).append("\"}");
   }
   writeFile(root + "/Local State", "{\"profile\": {\"info_cache\": {" + members + "}}}");
 }

@@ -107,8 +107,9 @@ class KilledErasing : public testing::Test, public BrowserBed {
             {"local storage",
              [this] {
                std::string all;
-               for (const auto& [key, value] : entriesOf(chromium + "/Local Storage/leveldb"))
-                 all += key + "=" + value + "\n";
+               for (const auto& [key, value] : entriesOf(chromium + "/Local Storage/leveldb")) {
+                 all.append(key).append("=").append(value).append("\n");
+               }
                return all;
              }},
             {"settings", [this] { return read(chromium + "/Preferences"); }},

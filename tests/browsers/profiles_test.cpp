@@ -44,7 +44,9 @@ TEST_P(EachInstallation, IsFoundWithTwoProfilesAndTheirCaches) {
                                              ? std::vector<std::string>{"a.one", "b.two"}
                                              : std::vector<std::string>{"Default", "Profile 1"};
   const std::string sign = isFirefox ? "/prefs.js" : "/Preferences";
-  for (const std::string& name : names) writeFile(root + "/" + name + sign);
+  for (const std::string& name : names) {
+    writeFile(std::string(root).append("/").append(name).append(sign));
+  }
   isFirefox ? listForFirefox(root, names) : listForChromium(root, names);
 
   const std::vector<Profile> found = platform::profilesThere(desktop, files);

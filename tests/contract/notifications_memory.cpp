@@ -9,7 +9,9 @@ class MemoryNotificationsBed : public NotificationsBed {
   platform::Notifications& notifications() override { return notifications_; }
   std::vector<std::string> seen() override {
     std::vector<std::string> texts;
-    for (const auto& [title, text] : notifications_.shown) texts.push_back(title + ": " + text);
+    for (const auto& [title, text] : notifications_.shown) {
+      texts.push_back(std::string(title).append(": ").append(text));
+    }
     return texts;
   }
 

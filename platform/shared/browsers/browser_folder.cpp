@@ -38,9 +38,10 @@ class BrowserFolder : public OpenFolder {
       : folder_(std::move(folder)), patterns_(std::move(patterns)), spared_(std::move(spared)) {}
 
   FolderListing list(EventPump& pump) override {
-    const FolderListing all = folder_->list(pump);
-    if (holdsGuarded(all.files) || holdsGuarded(all.subfolders))
+    FolderListing all = folder_->list(pump);
+    if (holdsGuarded(all.files) || holdsGuarded(all.subfolders)) {
       throw Error(ErrorNumber::accessError);
+    }
     if (patterns_.empty() && spared_.empty()) return all;
     FolderListing shown;
     const auto copyShown = [this](const NameList& from, NameList& to) {

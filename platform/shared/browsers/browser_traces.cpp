@@ -81,13 +81,15 @@ void BrowserTraces::forEachStore(const Profile& profile, Trace trace, const Use&
         std::make_unique<ProfileStore>(std::move(store), profile, isOpen, desktop_, left_));
   };
   for (const DatabaseRule& rule : rules.databases) {
-    if (rule.trace == trace)
+    if (rule.trace == trace) {
       offer(rule.name, std::make_unique<DatabaseStore>(profile.folder, rule, desktop_, files_));
+    }
   }
   for (const FilesRule& rule : rules.files) {
-    if (rule.trace == trace)
+    if (rule.trace == trace) {
       offer(rule.name,
             std::make_unique<FilesStore>(startOf(profile, rule.in), rule, desktop_, tree_));
+    }
   }
   for (const LevelDbRule& rule : rules.levelDbs) {
     if (rule.trace == trace) {
@@ -95,8 +97,9 @@ void BrowserTraces::forEachStore(const Profile& profile, Trace trace, const Use&
     }
   }
   for (const JsonRule& rule : rules.json) {
-    if (rule.trace == trace)
+    if (rule.trace == trace) {
       offer(rule.name, std::make_unique<JsonStore>(profile.folder, rule, desktop_, files_));
+    }
   }
 }
 

@@ -120,11 +120,12 @@ std::vector<std::string> Database::texts(const std::string& query) const {
   return Statement(*this, query).texts();
 }
 
-void Database::runForEach(const std::string& text, const std::vector<std::string>& texts) const {
-  Statement statement(*this, text);
+void Database::runForEach(const std::string& statement,
+                          const std::vector<std::string>& texts) const {
+  Statement prepared(*this, statement);
   for (const std::string& one : texts) {
-    statement.bind(one);
-    statement.step();
+    prepared.bind(one);
+    prepared.step();
   }
 }
 

@@ -12,6 +12,7 @@ namespace {
 
 TEST(Options, CaptionsStandAsTheyAreShown) {
   std::vector<std::string> captions;
+  captions.reserve(kOptions.size());
   for (const Option& option : kOptions) {
     captions.emplace_back(option.caption);
   }
