@@ -42,6 +42,7 @@ std::string rowsOfDatabase(const platform::DatabaseRule& rule) {
 
 std::string listed(std::string_view name, const std::vector<std::string_view>& places) {
   std::vector<std::string> texts;
+  texts.reserve(places.size());
   for (const std::string_view place : places) texts.push_back(code(place));
   return "| " + std::string(name) + " | " + joined(texts) + " |\n";
 }
