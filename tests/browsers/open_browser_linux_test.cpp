@@ -83,7 +83,7 @@ TEST_F(OpenBrowserTest, ALockThatAKilledChromiumLeftIsNone) {
   installChromium();
   std::string host(256, '\0');
   gethostname(host.data(), host.size());
-  std::filesystem::create_symlink(std::string(host.c_str()) + "-4711",
+  std::filesystem::create_symlink(host.substr(0, host.find('\0')) + "-4711",
                                   chromiumRoot + "/SingletonLock");
 
   eraseEverything();
