@@ -82,7 +82,7 @@ TEST_F(BrokenDatabaseTest, ALinkInItsPlaceIsNotFollowed) {
   EXPECT_EQ(rowsOf(other, "SELECT count(*) FROM moz_historyvisits"), std::vector<std::string>{"4"});
 }
 
-TEST_F(BrokenDatabaseTest, ATableOfALaterVersionIsLeftInAMixedDatabase) {
+TEST_F(BrokenDatabaseTest, ATableOfALaterVersionIsLeftInAMixedDatabaseAndNamed) {
   runIn(database, "CREATE TABLE moz_later (text); INSERT INTO moz_later VALUES ('later')");
 
   erase(SpecialFolder::history);
@@ -90,6 +90,17 @@ TEST_F(BrokenDatabaseTest, ATableOfALaterVersionIsLeftInAMixedDatabase) {
   EXPECT_EQ(rowsOf(database, "SELECT text FROM moz_later"), std::vector<std::string>{"later"});
   EXPECT_EQ(rowsOf(database, "SELECT count(*) FROM moz_historyvisits"),
             std::vector<std::string>{"0"});
+  EXPECT_EQ(left.take(),
+            (std::vector<LeftTrace>{
+                {"Firefox (p0)", "places.sqlite has a table that is not known, moz_later"}}));
+}
+
+TEST_F(BrokenDatabaseTest, AnEmptyTableOfALaterVersionIsNotNamed) {
+  runIn(database, "CREATE TABLE moz_later (text)");
+
+  erase(SpecialFolder::history);
+
+  EXPECT_EQ(left.take(), std::vector<LeftTrace>{});
 }
 
 }  // namespace

@@ -82,7 +82,11 @@ void BrowserTraces::forEachStore(const Profile& profile, Trace trace, const Use&
   };
   for (const DatabaseRule& rule : rules.databases) {
     if (rule.trace == trace) {
-      offer(rule.name, std::make_unique<DatabaseStore>(profile.folder, rule, desktop_, files_));
+      offer(rule.name, std::make_unique<DatabaseStore>(
+                           profile.folder, rule, desktop_, files_,
+                           [&left = left_, title = profile.title()](const std::string& what) {
+                             left.add({title, what});
+                           }));
     }
   }
   for (const FilesRule& rule : rules.files) {

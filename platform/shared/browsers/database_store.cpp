@@ -27,7 +27,7 @@ bool isOfSqliteItself(string_view table) { return table.starts_with("sqlite_"); 
 struct Plan {
   std::vector<RowRule> rows;
   std::vector<ColumnRule> columns;
-  std::vector<string> others;
+  std::vector<string> unnamed;  // tables of which it says nothing
 };
 
 bool hasColumn(const Database& database, const ColumnRule& rule) {
@@ -45,29 +45,36 @@ Plan planFor(const Database& database, const DatabaseRule& rule) {
                        [&](const RowRule& row) { return database.has(row.table); });
   std::ranges::copy_if(rule.columns, std::back_inserter(plan.columns),
                        [&](const ColumnRule& column) { return hasColumn(database, column); });
-  if (!rule.othersGo) return plan;
+  if (rule.others == Others::left) return plan;
   const auto isNamed = [&](const string& table) {
     return isOfSqliteItself(table) || std::ranges::count(rule.kept, table) > 0 ||
            std::ranges::count(rule.rows, table, &RowRule::table) > 0;
   };
   for (string& table : database.tables()) {
-    if (!isNamed(table)) plan.others.push_back(std::move(table));
+    if (!isNamed(table)) plan.unnamed.push_back(std::move(table));
   }
   return plan;
 }
 
-bool holdsAnyOf(const Database& database, const Plan& plan) {
-  const auto exists = [&](string_view table, const string& condition) {
-    return database.number("SELECT EXISTS (SELECT 1 FROM " + sqlName(table) + " WHERE " +
-                           condition + ")") != 0;
-  };
+bool exists(const Database& database, string_view table, const string& condition) {
+  return database.number("SELECT EXISTS (SELECT 1 FROM " + sqlName(table) + " WHERE " + condition +
+                         ")") != 0;
+}
+
+std::vector<string> filled(const Database& database, std::vector<string> tables) {
+  std::erase_if(tables, [&](const string& table) { return !exists(database, table, "1"); });
+  return tables;
+}
+
+bool holdsAnyOf(const Database& database, const DatabaseRule& rule) {
+  const Plan plan = planFor(database, rule);
   return database.hasFreePages() ||
-         std::ranges::any_of(plan.others,
-                             [&](const string& table) { return exists(table, "1"); }) ||
-         std::ranges::any_of(plan.rows,
-                             [&](const RowRule& rule) { return exists(rule.table, goes(rule)); }) ||
-         std::ranges::any_of(plan.columns, [&](const ColumnRule& rule) {
-           return exists(rule.table, differs(rule));
+         (rule.others == Others::erased && !filled(database, plan.unnamed).empty()) ||
+         std::ranges::any_of(
+             plan.rows,
+             [&](const RowRule& row) { return exists(database, row.table, goes(row)); }) ||
+         std::ranges::any_of(plan.columns, [&](const ColumnRule& column) {
+           return exists(database, column.table, differs(column));
          });
 }
 
@@ -86,9 +93,11 @@ void eraseRows(const Database& database, const RowRule& rule) {
                " FROM temp.staying;DROP TABLE temp.staying");
 }
 
-void change(const Database& database, const Plan& plan) {
+void change(const Database& database, const Plan& plan, Others others) {
   for (const RowRule& rule : plan.rows) eraseRows(database, rule);
-  for (const string& table : plan.others) database.run("DELETE FROM main." + sqlName(table));
+  if (others == Others::erased) {
+    for (const string& table : plan.unnamed) database.run("DELETE FROM main." + sqlName(table));
+  }
   for (const ColumnRule& rule : plan.columns) {
     database.run("UPDATE main." + sqlName(rule.table) + " SET " + sqlName(rule.column) + " = " +
                  string(rule.value) + " WHERE " + differs(rule));
@@ -106,8 +115,12 @@ void refuseDamaged(const Database& database, string_view file) {
 }  // namespace
 
 DatabaseStore::DatabaseStore(string profile, const DatabaseRule& rule,
-                             const BrowserDesktop& desktop, Files& files)
-    : profile_(std::move(profile)), rule_(rule), desktop_(desktop), files_(files) {}
+                             const BrowserDesktop& desktop, Files& files, Leaving leaving)
+    : profile_(std::move(profile)),
+      rule_(rule),
+      desktop_(desktop),
+      files_(files),
+      leaving_(std::move(leaving)) {}
 
 bool DatabaseStore::holdsAnything() const {
   const PathKind kind = kindBelow(desktop_, profile_, rule_.file);
@@ -115,8 +128,7 @@ bool DatabaseStore::holdsAnything() const {
   try {
     const Database database(pathOfFile(), Database::Use::reading, desktop_);
     namePages(database);
-    return desktop_.kindOf(mark()) != PathKind::nothing ||
-           holdsAnyOf(database, planFor(database, rule_));
+    return desktop_.kindOf(mark()) != PathKind::nothing || holdsAnyOf(database, rule_);
   } catch (const Error&) {
     return true;
   }
@@ -137,7 +149,7 @@ void DatabaseStore::eraseMarked() {
   files_.createBeside(mark())->publish();
   try {
     database.inOneStep([&] {
-      change(database, plan);
+      change(database, plan, rule_.others);
       refuseDamaged(database, rule_.file);
     });
   } catch (const Error&) {
@@ -145,6 +157,11 @@ void DatabaseStore::eraseMarked() {
     throw;
   }
   database.compact();
+  if (rule_.others == Others::named) {
+    for (const string& table : filled(database, plan.unnamed)) {
+      leaving_(string(rule_.file) + " has a table that is not known, " + table);
+    }
+  }
 }
 
 string DatabaseStore::pathOfFile() const { return profile_ + "/" + string(rule_.file); }

@@ -1,6 +1,7 @@
 // The traces of one kind in a database of a browser.
 #pragma once
 
+#include <functional>
 #include <string>
 
 #include "platform/shared/browsers/browser_desktop.h"
@@ -15,9 +16,12 @@ class Database;
 // the file is written anew, so that no byte of what went stays in it or beside it.
 class DatabaseStore : public LiveStore {
  public:
-  // All but `profile`, the folder in which its files are, outlive it.
+  // Is told, when the rest is done, what was left because nothing is known of it.
+  using Leaving = std::function<void(const std::string& what)>;
+
+  // `profile` is the folder in which its files are. What is borrowed outlives it.
   DatabaseStore(std::string profile, const DatabaseRule& rule, const BrowserDesktop& desktop,
-                Files& files);
+                Files& files, Leaving leaving);
 
   // True also for a file that cannot be understood: it may hold anything.
   bool holdsAnything() const override;
@@ -39,6 +43,7 @@ class DatabaseStore : public LiveStore {
   const DatabaseRule& rule_;
   const BrowserDesktop& desktop_;
   Files& files_;
+  Leaving leaving_;
 };
 
 }  // namespace zelvane::platform

@@ -40,6 +40,14 @@ struct ColumnRule {
   std::string_view of = {};
 };
 
+// What becomes of the tables of a database of which its rule says nothing. A later version of the
+// browser may have added them.
+enum class Others {
+  left,    // another rule of the same file answers for them
+  named,   // left, and those with rows in them are named to the user
+  erased,  // emptied: the file holds nothing but traces
+};
+
 struct DatabaseRule {
   Trace trace;
   std::string_view name;  // as the erasure lists it
@@ -48,10 +56,8 @@ struct DatabaseRule {
   std::vector<std::string_view> knownBy;
   std::vector<RowRule> rows;  // in their order
   std::vector<ColumnRule> columns = {};
-  // A file of nothing but traces is emptied of all other tables, too, so that what a newer version
-  // adds does not stay behind; but never of these.
-  bool othersGo = false;
-  std::vector<std::string_view> kept = {};
+  Others others = Others::left;
+  std::vector<std::string_view> kept = {};  // tables that are known and stay as they are
   // Conditions may ask "pages(url)", the addresses that this gives for the profile.
   std::vector<std::string> (*pages)(const std::string& profile, const BrowserDesktop& desktop,
                                     const Files& files) = nullptr;
