@@ -1,8 +1,10 @@
 """Homes with a browser whose user has visited half a million pages, in the browsers' own schemas."""
 
+import contextlib
 import json
 import pathlib
 import random
+import re
 import shutil
 import sqlite3
 import string
@@ -12,6 +14,7 @@ HOSTS = 5_000
 PAGES = 200_000
 VISITS = 500_000
 PAGES_TO_A_BOOKMARK = 1_000
+ADDRESS = re.compile(rb"[a-z]{9}\.example/[a-z]{12}")
 
 
 class BigHistory:
@@ -32,6 +35,29 @@ class BigHistory:
         home = self._folder / "home"
         shutil.copytree(self._template, home)
         return home
+
+    def left_in(self, home):
+        """How many times an address, or the beginning of one, stands in any file; bookmarks stay,
+        and do not count."""
+        kept = {ADDRESS.search(page.encode()).group()
+                for number, page in enumerate(self.pages) if self.is_bookmarked(number)}
+        return sum(address not in kept for path in home.rglob("*") if path.is_file()
+                   for address in ADDRESS.findall(path.read_bytes()))
+
+    def refuse_harm(self, home):
+        """Throws where a database is not sound, or a bookmark or an icon of one is not there."""
+        wanted = PAGES // PAGES_TO_A_BOOKMARK
+        for path in home.rglob("*"):
+            if path.is_file() and path.read_bytes()[:6] == b"SQLite":
+                with contextlib.closing(sqlite3.connect(path)) as opened:
+                    said = opened.execute("PRAGMA integrity_check").fetchall()
+                    broken = opened.execute("PRAGMA foreign_key_check").fetchall()
+                    icons = [opened.execute(f"SELECT count(*) FROM {table}").fetchone()[0]
+                             for table in ("moz_pages_w_icons", "icon_mapping")
+                             if opened.execute("SELECT 1 FROM sqlite_master WHERE name = ?",
+                                               [table]).fetchone()]
+                if said != [("ok",)] or broken or any(count != wanted for count in icons):
+                    raise SystemExit(f"{path}: {said}, {broken}, {icons} of {wanted} icons")
 
     def end(self, home):
         shutil.rmtree(home)

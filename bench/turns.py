@@ -3,6 +3,7 @@
 import os
 import statistics
 import subprocess
+import tempfile
 import time
 
 
@@ -36,25 +37,34 @@ class Contestant:
 
 
 class Command(Contestant):
-    """A whole process, from its start to its end. `command` makes it for a piece of work."""
+    """A whole process, from its start to its end. `command` makes it for a piece of work. `memory`
+    is the most that it has held of the machine's, in MiB, a shared page counted in full."""
 
     def __init__(self, name, command, goals=(), environment=None):
         super().__init__(name, goals)
+        self.memory = 0
         self._command = command
         self._environment = environment
 
+    def environment(self, work):
+        """The variables of the process for a piece of work; None for those of this one."""
+        return self._environment
+
     def measure(self, work):
-        before = os.times()
-        start = time.monotonic()
-        ended = subprocess.run(self._command(work), env=self._environment, text=True,
-                               stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                               stderr=subprocess.PIPE)
-        wall = time.monotonic() - start
-        after = os.times()
-        if ended.returncode != 0:
-            raise SystemExit(f"{self.name} ended with status {ended.returncode}:\n{ended.stderr}")
-        return wall, (after.children_user + after.children_system
-                      - before.children_user - before.children_system)
+        with tempfile.TemporaryFile() as told:
+            start = time.monotonic()
+            process = subprocess.Popen(
+                self._command(work), stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
+                stderr=told, env=self.environment(work))
+            _, status, used = os.wait4(process.pid, 0)
+            wall = time.monotonic() - start
+            process.returncode = os.waitstatus_to_exitcode(status)
+            if process.returncode != 0:
+                told.seek(0)
+                raise SystemExit(f"{self.name} ended with status {process.returncode}:\n"
+                                 f"{told.read().decode('utf-8', 'replace')}")
+        self.memory = max(self.memory, used.ru_maxrss / 1024)
+        return wall, used.ru_utime + used.ru_stime
 
 
 def take_turns(contestants, rounds, make_work=lambda: None, end_work=lambda work: None):
