@@ -43,6 +43,12 @@ windows,package g++-mingw-w64-x86-64-posix  command:x86_64-w64-mingw32-g++-posix
 windows,package mingw-w64-x86-64-dev        file:/usr/x86_64-w64-mingw32/include/windows.h  its headers and libraries
 windows,package dpkg-dev          command:dpkg-source                unpacks the sources of libraries for Windows
 windows,package make              command:make                       puts that of SQLite together
+debian        dpkg-dev            command:dpkg-shlibdeps             knows which packages hold a library
+debian        librsvg2-bin        command:rsvg-convert               draws the icons in their sizes
+debian        appstream           command:appstreamcli               checks what software centres are told
+debian        desktop-file-utils  command:desktop-file-validate      checks what menus are told
+debian        man-db              command:man                        reads the manual page
+debian        mmdebstrap          command:mmdebstrap                 makes a fresh Debian to install in
 windows,package tcl8.6            command:tclsh8.6                   the same
 windows,package gcc               command:gcc                        the same
 windows       wine                command:wine                       runs Windows' programs
