@@ -1,6 +1,7 @@
 #include "core/text.h"
 
 #include <algorithm>
+#include <array>
 #include <cstdint>
 
 namespace zelvane::core {
@@ -17,6 +18,12 @@ std::string timeText(std::chrono::seconds timeOfDay) {
   const std::chrono::hh_mm_ss parts(timeOfDay);
   return twoDigits(parts.hours().count()) + ":" + twoDigits(parts.minutes().count()) + ":" +
          twoDigits(parts.seconds().count());
+}
+
+std::string weekdayName(std::chrono::weekday day) {
+  constexpr std::array kNames{"Sunday",   "Monday", "Tuesday", "Wednesday",
+                              "Thursday", "Friday", "Saturday"};
+  return kNames[day.c_encoding()];
 }
 
 std::size_t characterCount(std::string_view text) {

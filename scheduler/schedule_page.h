@@ -12,6 +12,9 @@
 
 namespace zelvane::scheduler {
 
+// What stands for the time of the latest run while there was none.
+inline constexpr auto kNeverRun = "##:##:##";
+
 struct SchedulePage : controls::Page {
   SchedulePage();
 
@@ -30,8 +33,8 @@ struct SchedulePage : controls::Page {
   controls::UpDown udnHours{*this, "udnHours", txtHours, 0, 23};
   controls::Label lblHours{*this, "lblHours", "hrs."};
   controls::Label lblLastRun{*this, "lblLastRun", "Last Run  Time:"};
-  // "hh:mm:ss", the start of the latest run; this caption means that there was none.
-  controls::Label lblLastRunTime{*this, "lblLastRunTime", "##:##:##"};
+  // "hh:mm:ss", the start of the latest run, or `kNeverRun`.
+  controls::Label lblLastRunTime{*this, "lblLastRunTime", kNeverRun};
 
   controls::Button cmdDefaultSchedule{*this, "cmdDefaultSchedule", "Default"};
   controls::Button cmdCancel{*this, "cmdCancel", "Cancel"};

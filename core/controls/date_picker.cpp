@@ -16,4 +16,16 @@ void DatePicker::setValue(std::optional<platform::LocalTime> value) {
   edited.raise();
 }
 
+void DatePicker::click() {
+  if (reachable()) {
+    clicked.raise();
+  }
+}
+
+void DatePicker::closeUp() {
+  if (reachable()) {
+    closedUp.raise();
+  }
+}
+
 }  // namespace zelvane::controls

@@ -27,7 +27,14 @@ class DatePicker : public Control {
   // shows as it is.
   void setValue(std::optional<platform::LocalTime> value);
 
+  // The user pressed into the field, or the calendar that it had opened went away, whether or not
+  // the value became another one.
+  void click();
+  void closeUp();
+
   Event<> edited;
+  Event<> clicked;
+  Event<> closedUp;
 
  private:
   Kind kind_;

@@ -8,7 +8,8 @@
 namespace zelvane::controls {
 
 // The shell ticks it: never before a whole interval has passed since it was enabled or since the
-// last tick, late rather than early, and not at all while a message box or a dialog is open.
+// last tick, late rather than early (later where nobody sees the window, see `timer_pace.h`), and
+// not at all while a message box or a dialog is open.
 class Timer : public Control {
  public:
   Timer(Page& page, std::string name, std::chrono::milliseconds interval, bool enabled)

@@ -17,7 +17,9 @@ frmMain::frmMain(const platform::Desktop& desktop)
             .tabMain = mainPage.tabMain,
             .lblStatus = mainPage.lblStatus},
            desktop, handler_),
-      scheduleTimer_(schedulePage, settings_, handler_) {
+      scheduleSettings_(schedulePage, settings_, desktop, handler_),
+      scheduleTimer_(schedulePage, settings_, desktop.clock, handler_,
+                     [this] { run_.cmdBasicClean_Click(); }) {
   wire();
 }
 
@@ -30,8 +32,7 @@ void frmMain::wire() {
 
   // A page whose subsystem is not built yet cannot be used; its controls' own states stay as they
   // are designed.
-  for (controls::Frame* frame :
-       {&popupPage.Frame1, &fileSecurityPage.fmDravik, &schedulePage.fmSchedule}) {
+  for (controls::Frame* frame : {&popupPage.Frame1, &fileSecurityPage.fmDravik}) {
     frame->setDescription("This page comes with a later version.");
     frame->setEnabled(false);
   }

@@ -17,6 +17,7 @@
 #include "platform/desktop.h"
 #include "popupkiller/popup_page.h"
 #include "scheduler/schedule_page.h"
+#include "scheduler/schedule_settings.h"
 #include "scheduler/schedule_timer.h"
 
 namespace zelvane::main_window {
@@ -95,6 +96,7 @@ class frmMain {
   cleaner::OptionsHandlers options_;
   cleaner::HomePage homePage_;
   cleaner::CleaningRun run_;
+  scheduler::ScheduleSettings scheduleSettings_;
   scheduler::ScheduleTimer scheduleTimer_;
 };
 

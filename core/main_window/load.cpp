@@ -82,7 +82,7 @@ void frmMain::reimposeHomePage() {
 
 void frmMain::addTrayIcon() {}
 
-void frmMain::emptySchedulePickers() {}
+void frmMain::emptySchedulePickers() { scheduleSettings_.emptyPickers(); }
 
 void frmMain::showLocalAddress() {}
 
@@ -91,12 +91,10 @@ void frmMain::loadStartupBox() {
       core::toInteger(settings_.load(Application::title, "Options", "StartUp", "0")));
 }
 
-void frmMain::loadSchedule() {}
+void frmMain::loadSchedule() { scheduleSettings_.load(); }
 
-void frmMain::markScheduleApplied() {
-  schedulePage.cmdApply.setEnabled(false);
-  schedulePage.cmdCancel.setEnabled(false);
-}
+// Loading the schedule has edited it; there is nothing to apply yet.
+void frmMain::markScheduleApplied() { scheduleSettings_.markApplied(); }
 
 void frmMain::showReady() { mainPage.lblStatus.setCaption("Ready"); }
 

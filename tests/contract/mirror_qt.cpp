@@ -3,7 +3,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QDateTimeEdit>
-#include <QElapsedTimer>
+#include <QLineEdit>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QTest>
@@ -22,7 +22,6 @@
 #include "ui/qt/mirror/progress_bar_widget.h"
 #include "ui/qt/mirror/rich_log_widget.h"
 #include "ui/qt/mirror/text_box_widget.h"
-#include "ui/qt/mirror/timer_mirror.h"
 #include "ui/qt/mirror/up_down_widget.h"
 
 namespace zelvane::test {
@@ -205,6 +204,36 @@ TEST_F(QtMirrorTest, APickerFollowsBothWaysAndMayBeEmpty) {
   EXPECT_EQ(widget.field().time(), QTime(12, 0));
 }
 
+TEST_F(QtMirrorTest, PressingIntoAPickerIsToldThoughItsValueStays) {
+  controls::DatePicker control(page, "dtpScheduleDate", controls::DatePicker::Kind::date);
+  control.setValue({{std::chrono::year{2026} / 11 / 21, 12h}});
+  Count clicks(control.clicked);
+  Count edits(control.edited);
+  const qt::DatePickerWidget widget(control, window);
+
+  QTest::mouseClick(widget.field().findChild<QLineEdit*>(), Qt::LeftButton);
+
+  EXPECT_EQ(clicks.times, 1);
+  EXPECT_EQ(edits.times, 0);
+}
+
+TEST_F(QtMirrorTest, ClosingTheCalendarOfAPickerIsToldThoughItsValueStays) {
+  controls::DatePicker control(page, "dtpScheduleDate", controls::DatePicker::Kind::date);
+  control.setValue({{std::chrono::year{2026} / 11 / 21, 12h}});
+  Count closings(control.closedUp);
+  Count edits(control.edited);
+  const qt::DatePickerWidget widget(control, window);
+  window.show();
+  QTest::keyClick(&widget.field(), Qt::Key_F4);
+  QWidget* calendar = QApplication::activePopupWidget();
+  ASSERT_NE(calendar, nullptr);
+
+  calendar->close();
+
+  EXPECT_EQ(closings.times, 1);
+  EXPECT_EQ(edits.times, 0);
+}
+
 TEST_F(QtMirrorTest, TheArrowsCountTheirBox) {
   controls::TextBox hours(page, "txtHours", "2");
   controls::UpDown arrows(page, "udnHours", hours, 0, 23);
@@ -308,77 +337,6 @@ TEST_F(QtLogTest, ItsEndIsInViewAndTheBarBesideItSaysSo) {
   const QScrollBar& bar = *widget.verticalScrollBar();
   EXPECT_EQ(bar.value(), bar.maximum());
   EXPECT_EQ(bar.sliderPosition(), bar.maximum());
-}
-
-class QtTimerTest : public QtMirrorTest {
- protected:
-  // Lets the program's events run until `done`.
-  static void wait(const std::function<bool()>& done) {
-    while (!done()) {
-      QApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-  }
-
-  controls::OpenBoxes boxes;
-};
-
-TEST_F(QtTimerTest, ItTicksAgainAndAgainAndNeverEarly) {
-  controls::Timer control(page, "tmrSchedule", 10ms, true);
-  Count ticks(control.ticked);
-  QElapsedTimer clock;
-  clock.start();
-  const qt::TimerMirror mirror(control, boxes, window);
-
-  wait([&] { return ticks.times == 5; });
-
-  EXPECT_GE(clock.nsecsElapsed(), 5 * 10'000'000);
-}
-
-TEST_F(QtTimerTest, EnablingItStartsAWholeIntervalAnew) {
-  controls::Timer control(page, "tmrMakeScehduleEnable", 30ms, false);
-  Count ticks(control.ticked);
-  const qt::TimerMirror mirror(control, boxes, window);
-  QElapsedTimer clock;
-  control.setEnabled(true);
-  control.setEnabled(false);
-  clock.start();
-  control.setEnabled(true);
-
-  wait([&] { return ticks.times == 1; });
-
-  EXPECT_GE(clock.nsecsElapsed(), 30'000'000);
-}
-
-TEST_F(QtTimerTest, WhileABoxIsOpenNothingTicks) {
-  controls::Timer stopped(page, "tmrSchedule", 1ms, true);
-  controls::Timer judge(page, "tmrJudge", 20ms, true);
-  Count ticks(stopped.ticked);
-  Count passed(judge.ticked);
-  const qt::TimerMirror mirror(stopped, boxes, window);
-  controls::OpenBoxes none;
-  const qt::TimerMirror other(judge, none, window);
-
-  {
-    const controls::OpenBoxes::Opening opening(boxes);
-    wait([&] { return passed.times == 2; });
-    EXPECT_EQ(ticks.times, 0);
-  }
-
-  wait([&] { return ticks.times > 0; });
-}
-
-TEST_F(QtTimerTest, ADisabledTimerDoesNotTick) {
-  controls::Timer disabled(page, "tmrSchedule", 1ms, true);
-  controls::Timer judge(page, "tmrJudge", 20ms, true);
-  Count ticks(disabled.ticked);
-  Count passed(judge.ticked);
-  const qt::TimerMirror mirror(disabled, boxes, window);
-  const qt::TimerMirror other(judge, boxes, window);
-
-  disabled.setEnabled(false);
-  wait([&] { return passed.times == 2; });
-
-  EXPECT_EQ(ticks.times, 0);
 }
 
 }  // namespace

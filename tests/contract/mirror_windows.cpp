@@ -267,6 +267,23 @@ TEST_F(Win32MirrorTest, APickerFollowsBothWaysAndMayBeEmpty) {
   EXPECT_EQ(shown.wHour, 12);
 }
 
+TEST_F(Win32MirrorTest, PressingIntoAPickerAndClosingItsCalendarAreToldThoughItsValueStays) {
+  controls::DatePicker control(page, "dtpScheduleTime", controls::DatePicker::Kind::time);
+  control.setValue({{std::chrono::year{2026} / 11 / 21, 12h}});
+  const Count clicks(control.clicked);
+  const Count closings(control.closedUp);
+  const Count edits(control.edited);
+  const auto& picker = make<win32::DatePickerWindow>(control);
+
+  send(picker, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(60, 8));
+  send(picker, WM_LBUTTONUP, 0, MAKELPARAM(60, 8));
+  EXPECT_EQ(clicks.times, 1);
+
+  notify(picker, static_cast<UINT>(DTN_CLOSEUP), NMHDR{});
+  EXPECT_EQ(closings.times, 1);
+  EXPECT_EQ(edits.times, 0);
+}
+
 TEST_F(Win32MirrorTest, TheArrowsCountTheirBox) {
   controls::TextBox hours(page, "txtHours", "2");
   controls::UpDown control(page, "udnHours", hours, 0, 23);

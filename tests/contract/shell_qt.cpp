@@ -83,12 +83,11 @@ TEST_F(QtShellTest, ANoteIsQuieterThanTheCaptionAboveIt) {
 }
 
 TEST_F(QtShellTest, WhatIsDisabledByItsFrameCannotBeUsedOnTheScreen) {
-  EXPECT_FALSE(widgetOf(window.schedulePage.cmbDays)->isEnabled());
   EXPECT_FALSE(widgetOf(window.fileSecurityPage.cmdEncrypt)->isEnabled());
   EXPECT_TRUE(widgetOf(window.cleanerPage.cmdBasicClean)->isEnabled());
 
-  window.schedulePage.fmSchedule.setEnabled(true);
-  EXPECT_TRUE(widgetOf(window.schedulePage.cmbDays)->isEnabled());
+  window.fileSecurityPage.fmDravik.setEnabled(true);
+  EXPECT_TRUE(widgetOf(window.fileSecurityPage.cmdEncrypt)->isEnabled());
 }
 
 TEST_F(QtShellTest, TheTabKeyVisitsTheControlsInTheOrderOfTheirPage) {

@@ -38,18 +38,16 @@ TEST_F(Win32ShellTest, EachControlWithAFaceHasANumberOfItsOwn) {
 }
 
 TEST_F(Win32ShellTest, WhatIsDisabledByItsFrameCannotBeUsedOnTheScreen) {
-  EXPECT_FALSE(IsWindowEnabled(handleOf(window.schedulePage.cmbDays)));
   EXPECT_FALSE(IsWindowEnabled(handleOf(window.fileSecurityPage.cmdEncrypt)));
   EXPECT_FALSE(IsWindowEnabled(handleOf(window.fileSecurityPage.lblFileOrFolder)));
   EXPECT_TRUE(IsWindowEnabled(handleOf(window.cleanerPage.cmdBasicClean)));
 
-  window.schedulePage.fmSchedule.setEnabled(true);
-  EXPECT_TRUE(IsWindowEnabled(handleOf(window.schedulePage.cmbDays)));
+  window.fileSecurityPage.fmDravik.setEnabled(true);
+  EXPECT_TRUE(IsWindowEnabled(handleOf(window.fileSecurityPage.cmdEncrypt)));
 }
 
 TEST_F(Win32ShellTest, TheTabKeyVisitsTheControlsInTheOrderOfTheirPage) {
-  for (controls::Frame* frame : {&window.popupPage.Frame1, &window.fileSecurityPage.fmDravik,
-                                 &window.schedulePage.fmSchedule}) {
+  for (controls::Frame* frame : {&window.popupPage.Frame1, &window.fileSecurityPage.fmDravik}) {
     frame->setEnabled(true);
   }
   int tab = 0;

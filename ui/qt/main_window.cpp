@@ -73,7 +73,7 @@ MainWindow::MainWindow(main_window::frmMain& window, controls::OpenBoxes& boxes)
   for (const controls::Page* page : window.pages()) {
     for (controls::Control* control : page->controls()) {
       if (auto* timer = dynamic_cast<controls::Timer*>(control)) {
-        new TimerMirror(*timer, boxes, *this);
+        new TimerMirror(*timer, boxes, window.mainPage.form, *this);
       }
     }
   }

@@ -148,7 +148,7 @@ void MainWindow::startTimers(main_window::frmMain& window, controls::OpenBoxes& 
   for (const controls::Page* page : window.pages()) {
     for (controls::Control* control : page->controls()) {
       if (auto* timer = dynamic_cast<controls::Timer*>(control)) {
-        make<TimerMirror>(*timer, boxes);
+        make<TimerMirror>(*timer, boxes, window.mainPage.form);
       }
     }
   }

@@ -1,5 +1,7 @@
 #include "core/text.h"
 
+#include <vector>
+
 #include <gtest/gtest.h>
 
 namespace zelvane::core {
@@ -11,6 +13,17 @@ TEST(Text, ATimeOfDayHasTwoDigitsEachOnAClockOf24Hours) {
   EXPECT_EQ(timeText(0s), "00:00:00");
   EXPECT_EQ(timeText(9h + 5min + 7s), "09:05:07");
   EXPECT_EQ(timeText(23h + 59min + 59s), "23:59:59");
+}
+
+TEST(Text, TheDaysOfTheWeekHaveTheirEnglishNames) {
+  const std::chrono::local_days monday(std::chrono::year(2026) / 11 / 16);
+  std::vector<std::string> names;
+  for (int day = 0; day < 7; ++day) {
+    names.push_back(weekdayName(std::chrono::weekday(monday + std::chrono::days(day))));
+  }
+
+  EXPECT_EQ(names, (std::vector<std::string>{"Monday", "Tuesday", "Wednesday", "Thursday", "Friday",
+                                             "Saturday", "Sunday"}));
 }
 
 TEST(Text, CharactersAreCountedAndNotBytes) {

@@ -4,6 +4,7 @@
 
 #include "core/controls/menu.h"
 #include "core/controls/option_button.h"
+#include "core/text.h"
 
 namespace zelvane::faults {
 
@@ -131,6 +132,15 @@ std::string colourName(controls::RichLog::Colour colour) {
   return "";
 }
 
+std::string valueOf(const controls::DatePicker& picker) {
+  const auto value = picker.value();
+  if (!value) {
+    return "none";
+  }
+  const auto day = std::chrono::local_days(value->date).time_since_epoch();
+  return std::to_string(day.count()) + " " + core::timeText(value->timeOfDay);
+}
+
 void addControl(Facts& facts, const controls::Control& control) {
   const auto fact = [&](const char* what) -> std::string& { return facts[control.name() + what]; };
   if (!control.enabled()) {
@@ -150,9 +160,15 @@ void addControl(Facts& facts, const controls::Control& control) {
   }
   if (const auto* box = dynamic_cast<const controls::TextBox*>(&control)) {
     fact(".text") = box->text();
+    if (box->background() == controls::TextBox::Background::buttonFace) {
+      fact(".background") = "button face";
+    }
   }
   if (const auto* list = dynamic_cast<const controls::ComboBox*>(&control)) {
     fact(".listIndex") = std::to_string(list->listIndex());
+  }
+  if (const auto* picker = dynamic_cast<const controls::DatePicker*>(&control)) {
+    fact(".value") = valueOf(*picker);
   }
   if (const auto* strip = dynamic_cast<const controls::TabStrip*>(&control)) {
     fact(".tab") = std::to_string(strip->tab());

@@ -35,6 +35,8 @@ std::string inUserRoot(const std::string& path);
 //
 //   chkSettings_2.value, lblStatus.caption, rtfMessage.run 00
 //   cmdApply.disabled, frmMain.hidden     "yes"; missing for most controls
+//   dtpScheduleDate.value                 the number of its day and its time, or "none"
+//   txtHours.background                   "button face"; missing for the usual one
 using Facts = std::map<std::string, std::string>;
 
 Facts factsOf(const platform::MemoryDesktop& desktop);

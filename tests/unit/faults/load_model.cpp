@@ -9,6 +9,9 @@ namespace {
 
 constexpr auto kDefaults = std::to_array({1, 1, 1, 1, 0, 1, 0, 1, 0, 1, 1, 1, 0, 0, 0, 0});
 
+// The number of the day that the clock shows; a stored time of day is of that day.
+const std::string kToday = "20778";
+
 class Model {
  public:
   Model(const Facts& before, const std::vector<Call>& failed) : facts_(before), failed_(failed) {}
@@ -29,6 +32,7 @@ class Model {
     facts_["txtHomePageURL.text"] = homePage;
     write(kBrowserMain, "Start Page", homePage, 1);
     facts_["chkStartup.value"] = stored(storedFact("Options", "StartUp"), "Options/StartUp", "0");
+    loadSchedule();
     facts_["cmdApply.disabled"] = "yes";
     facts_["cmdCancel.disabled"] = "yes";
     facts_["lblStatus.caption"] = "Ready";
@@ -75,6 +79,37 @@ class Model {
     }
   }
 
+  // The kind is asked for twice: whether there is one, and at last which.
+  void loadSchedule() {
+    const auto schedule = [this](const std::string& key, const std::string& absent,
+                                 int occurrence) {
+      return stored(storedFact("Schedule", key), "Schedule/" + key, absent, occurrence);
+    };
+    const bool applied = schedule("RunOn", "None", 1) != "None";
+    if (applied) {
+      facts_["txtHours.text"] = schedule("RunAfter", "", 1);
+      facts_["lblLastRunTime.caption"] = schedule("LastRunTime", "", 1);
+    }
+    const bool hasDate = applied && schedule("Date", "Null", 1) != "Null";
+    const bool hasTime = applied && schedule("Time", "Null", 1) != "Null";
+    const bool isDaily = !applied || schedule("RunOn", "7", 2) == "7";
+    facts_["cmbDays.listIndex"] = isDaily ? "7" : "9";
+    facts_["dtpScheduleDate.value"] = hasDate && !isDaily ? "2 12:00:00" : "none";
+    facts_["dtpScheduleTime.value"] = hasTime ? kToday + " 08:30:00" : "none";
+    if (isDaily) {
+      facts_["dtpScheduleDate.disabled"] = "yes";
+    }
+    if (isDaily && !hasTime) {
+      if (facts_["txtHours.text"].empty()) {
+        facts_["txtHours.text"] = "2";
+      }
+    } else {
+      facts_["txtHours.disabled"] = "yes";
+      facts_["txtHours.background"] = "button face";
+      facts_["udnHours.disabled"] = "yes";
+    }
+  }
+
   void write(const std::string& path, const std::string& name, const std::string& text,
              int opening) {
     const std::string key = inUserRoot(path);
@@ -84,10 +119,11 @@ class Model {
     }
   }
 
-  std::string stored(const std::string& fact, const std::string& subject,
-                     const std::string& absent) const {
+  std::string stored(const std::string& fact, const std::string& subject, const std::string& absent,
+                     int occurrence = 1) const {
     const auto text = facts_.find(fact);
-    return text == facts_.end() || did("SettingsBackend::find", subject) ? absent : text->second;
+    return text == facts_.end() || did("SettingsBackend::find", subject, occurrence) ? absent
+                                                                                     : text->second;
   }
 
   Facts facts_;

@@ -13,7 +13,10 @@ void settle(platform::MemoryDesktop& desktop) {
   desktop.settings.put("Options", "StartUp", "1");
   desktop.settings.put("HomePage", "StartPage", "https://mine.example/");
   desktop.settings.put("PopupKiller", "IsActive", "0");
-  desktop.settings.put("Schedule", "RunOn", "7");
+  desktop.settings.put("Schedule", "RunOn", "9");
+  desktop.settings.put("Schedule", "Date", "1970-01-03");
+  desktop.settings.put("Schedule", "Time", "08:30:00");
+  desktop.settings.put("Schedule", "RunAfter", "5");
   desktop.settings.put("Schedule", "LastRunTime", "09:05:07");
   desktop.registry.put(Root::currentUser, kBrowserMain, "Start Page", "https://theirs.example/");
   desktop.registry.put(Root::currentUser, kAutoComplete, "AutoSuggest", "yes");

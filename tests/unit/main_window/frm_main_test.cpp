@@ -74,14 +74,14 @@ TEST_F(FrmMainTest, TheInternetPageShowsItsBoxesInTheirOrder) {
 }
 
 TEST_F(FrmMainTest, APageThatIsNotBuiltYetIsDisabledByItsFrameAlone) {
-  for (const controls::Frame* frame : {&window.popupPage.Frame1, &window.fileSecurityPage.fmDravik,
-                                       &window.schedulePage.fmSchedule}) {
+  for (const controls::Frame* frame :
+       {&window.popupPage.Frame1, &window.fileSecurityPage.fmDravik}) {
     EXPECT_FALSE(frame->enabled()) << frame->name();
   }
   EXPECT_TRUE(window.popupPage.chkPopupKillerActivate.enabled());
   EXPECT_FALSE(window.popupPage.chkPopupKillerActivate.reachable());
   EXPECT_TRUE(window.fileSecurityPage.cmdEncrypt.enabled());
-  EXPECT_TRUE(window.schedulePage.cmbDays.enabled());
+  EXPECT_TRUE(window.schedulePage.cmbDays.reachable());
 }
 
 TEST_F(FrmMainTest, TheOtherPagesStartAsDesigned) {
@@ -125,6 +125,45 @@ TEST_F(FrmMainTest, ARunByHandStoresItsStartOneSecondAfterItsEnd) {
   window.schedulePage.tmrMakeScehduleEnable.tick();
   EXPECT_EQ(desktop.settings.find("Schedule", "LastRunTime"), "10:45:00");
   EXPECT_TRUE(window.schedulePage.tmrSchedule.enabled());
+}
+
+TEST_F(FrmMainTest, TheScheduleStartsARunAtItsSecond) {
+  start();
+  desktop.clock.set({std::chrono::year{2026} / 11 / 21, 8h + 30min});
+  window.schedulePage.dtpScheduleTime.setValue(desktop.clock.now());
+  window.schedulePage.cmdApply.click();
+
+  window.schedulePage.tmrSchedule.tick();
+
+  EXPECT_TRUE(window.cleanerPage.rtfMessage.text().ends_with("\r\nDone"));
+  EXPECT_EQ(window.schedulePage.lblLastRunTime.caption(), "08:30:00");
+  EXPECT_FALSE(window.schedulePage.tmrSchedule.enabled());
+  EXPECT_TRUE(window.schedulePage.tmrMakeScehduleEnable.enabled());
+}
+
+TEST_F(FrmMainTest, AnEditedScheduleStartsNoRunBeforeItIsApplied) {
+  start();
+  window.schedulePage.dtpScheduleTime.setValue(desktop.clock.now());
+
+  window.schedulePage.tmrSchedule.tick();
+  EXPECT_EQ(window.cleanerPage.rtfMessage.text(), "");
+  EXPECT_TRUE(window.schedulePage.tmrSchedule.enabled());
+
+  window.schedulePage.cmdApply.click();
+  window.schedulePage.tmrSchedule.tick();
+  EXPECT_TRUE(window.cleanerPage.rtfMessage.text().ends_with("\r\nDone"));
+}
+
+TEST_F(FrmMainTest, ARunByHandMovesTheHoursOfTheSchedule) {
+  start();
+  desktop.clock.set({std::chrono::year{2026} / 11 / 21, 10h + 45min});
+  window.cleanerPage.cmdBasicClean.click();
+  window.schedulePage.tmrMakeScehduleEnable.tick();
+
+  desktop.clock.set({std::chrono::year{2026} / 11 / 21, 12h});
+  window.schedulePage.tmrSchedule.tick();
+
+  EXPECT_EQ(window.schedulePage.lblLastRunTime.caption(), "12:00:00");
 }
 
 TEST_F(FrmMainTest, TheTrayMenuHasItsFiveItems) {

@@ -143,6 +143,55 @@ TEST_F(LoadTest, TheScheduleStartsAppliedAndSoARunIsNotRefused) {
   EXPECT_TRUE(window.cleanerPage.rtfMessage.text().ends_with("\r\nDone"));
 }
 
+TEST_F(LoadTest, WithoutAStoredScheduleThePickersShowThePresentMomentAndHoldNone) {
+  const platform::LocalTime now = desktop.clock.now();
+
+  start();
+
+  EXPECT_EQ(window.schedulePage.cmbDays.text(), "Daily");
+  EXPECT_EQ(window.schedulePage.dtpScheduleDate.value(), std::nullopt);
+  EXPECT_EQ(window.schedulePage.dtpScheduleDate.shown(), now);
+  EXPECT_EQ(window.schedulePage.dtpScheduleTime.value(), std::nullopt);
+  EXPECT_EQ(window.schedulePage.dtpScheduleTime.shown(), now);
+  EXPECT_EQ(window.schedulePage.txtHours.text(), "2");
+  EXPECT_EQ(window.schedulePage.lblLastRunTime.caption(), "##:##:##");
+}
+
+TEST_F(LoadTest, AStoredScheduleIsShownAndAppliedWithTheTimeOfTheLastRun) {
+  desktop.settings.put("Schedule", "RunOn", "9");
+  desktop.settings.put("Schedule", "Date", "2026-12-24");
+  desktop.settings.put("Schedule", "Time", "08:30:00");
+  desktop.settings.put("Schedule", "LastRunTime", "10:45:00");
+
+  start();
+
+  EXPECT_EQ(window.schedulePage.cmbDays.text(), "Date & Time");
+  EXPECT_TRUE(window.schedulePage.dtpScheduleDate.value().has_value());
+  EXPECT_TRUE(window.schedulePage.dtpScheduleTime.value().has_value());
+  EXPECT_EQ(window.schedulePage.lblLastRunTime.caption(), "10:45:00");
+  EXPECT_FALSE(window.schedulePage.cmdApply.enabled());
+  EXPECT_FALSE(window.schedulePage.cmdCancel.enabled());
+  EXPECT_TRUE(desktop.settings.saves().empty());
+}
+
+class SpoiltScheduleTest : public LoadTest, public testing::WithParamInterface<SpoiltNumber> {};
+
+TEST_P(SpoiltScheduleTest, EndsTheLoadWithItsErrorAndStaysStored) {
+  desktop.settings.put("Schedule", "RunOn", GetParam().stored);
+
+  start();
+
+  ASSERT_EQ(desktop.dialogs.boxes().size(), 1U);
+  EXPECT_EQ(desktop.dialogs.boxes()[0].text, GetParam().message);
+  EXPECT_EQ(window.mainPage.lblStatus.caption(), "");
+  EXPECT_EQ(desktop.settings.find("Schedule", "RunOn"), GetParam().stored);
+  EXPECT_TRUE(window.mainPage.form.visible());
+}
+
+INSTANTIATE_TEST_SUITE_P(EachKind, SpoiltScheduleTest,
+                         testing::Values(SpoiltNumber{"abc", "Error: 13 - Type mismatch"},
+                                         SpoiltNumber{"40000", "Error: 6 - Overflow"}));
+
 TEST_F(LoadTest, SettingsThatCannotBeReadAreLikeNoSettings) {
   desktop.settings.put("HomePage", "StartPage", "https://mine.example/");
   desktop.settings.refuseEverything();

@@ -1,8 +1,10 @@
 #include "ui/qt/mirror/date_picker_widget.h"
 
 #include <QCheckBox>
+#include <QChildEvent>
 #include <QDateEdit>
 #include <QHBoxLayout>
+#include <QLineEdit>
 #include <QLocale>
 #include <QSignalBlocker>
 #include <QTimeEdit>
@@ -54,6 +56,8 @@ DatePickerWidget::DatePickerWidget(controls::DatePicker& control, QWidget& paren
   row->addWidget(field_, 1);
   setFocusProxy(box_);
 
+  field_->installEventFilter(this);
+  field_->findChild<QLineEdit*>()->installEventFilter(this);
   mirrorControl(control, *this);
   follow(control, *this, [this] { showControl(); });
   connect(box_, &QCheckBox::toggled, this, [this](bool chosen) {
@@ -64,6 +68,19 @@ DatePickerWidget::DatePickerWidget(controls::DatePicker& control, QWidget& paren
       control_.setValue(edited());
     }
   });
+}
+
+bool DatePickerWidget::eventFilter(QObject* watched, QEvent* event) {
+  const bool isCalendar = watched->isWidgetType() && static_cast<QWidget*>(watched)->isWindow();
+  if (event->type() == QEvent::ChildPolished && watched == field_) {
+    // The calendar is made when it is opened first.
+    static_cast<QChildEvent*>(event)->child()->installEventFilter(this);
+  } else if (event->type() == QEvent::MouseButtonPress && !isCalendar) {
+    control_.click();
+  } else if (event->type() == QEvent::Hide && isCalendar) {
+    control_.closeUp();
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 void DatePickerWidget::showControl() {

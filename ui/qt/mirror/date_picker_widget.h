@@ -19,6 +19,9 @@ class DatePickerWidget : public QWidget {
   QCheckBox& box() const { return *box_; }
   QDateTimeEdit& field() const { return *field_; }
 
+  // Of the field, what is typed in it, and its calendar.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
  private:
   void showControl();
   platform::LocalTime edited() const;

@@ -77,7 +77,18 @@ Size DatePickerWindow::natural() const {
           look().fieldHeight()};
 }
 
+LRESULT DatePickerWindow::onMessage(UINT message, WPARAM word, LPARAM value) {
+  if (message == WM_LBUTTONDOWN) {
+    control_.click();
+  }
+  return Window::onMessage(message, word, value);
+}
+
 std::optional<LRESULT> DatePickerWindow::onNotify(const NMHDR& notice) {
+  if (notice.code == static_cast<UINT>(DTN_CLOSEUP)) {
+    control_.closeUp();
+    return 0;
+  }
   if (notice.code != static_cast<UINT>(DTN_DATETIMECHANGE)) {
     return std::nullopt;
   }

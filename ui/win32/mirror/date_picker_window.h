@@ -14,6 +14,9 @@ class DatePickerWindow : public Window {
   Size natural() const override;
   std::optional<LRESULT> onNotify(const NMHDR& notice) override;
 
+ protected:
+  LRESULT onMessage(UINT message, WPARAM word, LPARAM value) override;
+
  private:
   void showControl();
   platform::LocalTime edited(const SYSTEMTIME& field) const;

@@ -1,5 +1,6 @@
 #include "ui/win32/mirror/timer_mirror.h"
 
+#include "core/controls/timer_pace.h"
 #include "ui/win32/mirror/follow.h"
 
 namespace zelvane::win32 {
@@ -10,8 +11,12 @@ constexpr UINT_PTR kTimer = 1;
 
 }  // namespace
 
-TimerMirror::TimerMirror(controls::Timer& control, controls::OpenBoxes& boxes, Pane& parent)
-    : Window({kPaneClass, 0}, HWND_MESSAGE, parent.look()), control_(control), boxes_(boxes) {
+TimerMirror::TimerMirror(controls::Timer& control, controls::OpenBoxes& boxes, controls::Form& form,
+                         Pane& parent)
+    : Window({kPaneClass, 0}, HWND_MESSAGE, parent.look()),
+      control_(control),
+      boxes_(boxes),
+      form_(form) {
   setControl(control);
   boxes.allClosed.connect([this, window = handle()] {
     if (Window::of(window) == this) {
@@ -19,14 +24,23 @@ TimerMirror::TimerMirror(controls::Timer& control, controls::OpenBoxes& boxes, P
     }
   });
   follow(control, *this, [this] { restart(); });
+  follow(form, *this, [this] { hasten(); });
 }
 
 void TimerMirror::restart() {
   KillTimer(handle(), kTimer);
   waiting_ = control_.enabled() && !boxes_.any();
   if (waiting_) {
-    due_ = Clock::now() + control_.interval();
-    waitFor(control_.interval());
+    wait_ = controls::paceOf(control_, form_);
+    due_ = Clock::now() + wait_;
+    waitFor(wait_);
+  }
+}
+
+// The window is seen again: a usual wait takes the place of a long one.
+void TimerMirror::hasten() {
+  if (waiting_ && controls::paceOf(control_, form_) < wait_) {
+    restart();
   }
 }
 
