@@ -58,6 +58,11 @@ class Files : public Port {
 
   // A new file in the folder of `target`, readable by its user alone. The folder has to exist.
   virtual std::unique_ptr<PendingFile> createBeside(const std::string& target) = 0;
+
+  // A new file in place of one that is there, with that one's permissions, or with its folder's on
+  // a desktop where files have theirs from there. Throws fileNotFound where there is none, and
+  // accessError where it is a link or no file.
+  virtual std::unique_ptr<PendingFile> createInPlaceOf(const std::string& target) = 0;
 };
 
 }  // namespace zelvane::platform

@@ -56,6 +56,24 @@ class LinuxReadStream : public ReadStream {
   Descriptor file_;
 };
 
+struct FilePlace {
+  Descriptor folder;
+  std::string name;
+};
+
+FilePlace placeOf(const std::string& path) {
+  const std::size_t slash = path.rfind('/');
+  std::string name = slash == std::string::npos ? path : path.substr(slash + 1);
+  const std::string folderPath = slash == std::string::npos ? "." : path.substr(0, slash + 1);
+  if (name.empty() || name == "." || name == "..") throw Error(ErrorNumber::accessError);
+  Descriptor folder(::open(kernelPath(folderPath), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (!folder.isOpen()) {
+    throw errno == ENOENT ? Error(ErrorNumber::pathNotFound) : errorFor(errno);
+  }
+  kernelPath(name);
+  return {std::move(folder), std::move(name)};
+}
+
 }  // namespace
 
 bool LinuxFiles::exists(const std::string& path) const {
@@ -78,16 +96,21 @@ void LinuxFiles::remove(const std::string& path) {
 }
 
 std::unique_ptr<PendingFile> LinuxFiles::createBeside(const std::string& target) {
-  const std::size_t slash = target.rfind('/');
-  const std::string name = slash == std::string::npos ? target : target.substr(slash + 1);
-  const std::string folderPath = slash == std::string::npos ? "." : target.substr(0, slash + 1);
-  if (name.empty() || name == "." || name == "..") throw Error(ErrorNumber::accessError);
-  Descriptor folder(::open(kernelPath(folderPath), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (!folder.isOpen()) {
-    throw errno == ENOENT ? Error(ErrorNumber::pathNotFound) : errorFor(errno);
+  FilePlace place = placeOf(target);
+  return std::make_unique<LinuxPendingFile>(std::move(place.folder), std::move(place.name));
+}
+
+std::unique_ptr<PendingFile> LinuxFiles::createInPlaceOf(const std::string& target) {
+  constexpr mode_t kPermissions = S_IRWXU | S_IRWXG | S_IRWXO;
+  FilePlace place = placeOf(target);
+  struct stat status {};
+  if (fstatat(place.folder.get(), place.name.c_str(), &status, AT_SYMLINK_NOFOLLOW) != 0) {
+    throwForFile();
   }
-  kernelPath(name);
-  return std::make_unique<LinuxPendingFile>(std::move(folder), name);
+  if (!S_ISREG(status.st_mode)) throw Error(ErrorNumber::accessError);
+  auto file = std::make_unique<LinuxPendingFile>(std::move(place.folder), std::move(place.name));
+  file->setPermissions(status.st_mode & kPermissions);
+  return file;
 }
 
 }  // namespace zelvane::platform

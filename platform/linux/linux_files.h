@@ -15,6 +15,7 @@ class LinuxFiles : public Files {
   std::string readWhole(const std::string& path, std::uint64_t limit) const override;
   void remove(const std::string& path) override;
   std::unique_ptr<PendingFile> createBeside(const std::string& target) override;
+  std::unique_ptr<PendingFile> createInPlaceOf(const std::string& target) override;
 };
 
 }  // namespace zelvane::platform

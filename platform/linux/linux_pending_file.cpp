@@ -74,6 +74,10 @@ void LinuxPendingFile::createHidden() {
   hiddenName_ = std::move(name);
 }
 
+void LinuxPendingFile::setPermissions(mode_t permissions) {
+  if (fchmod(file_.get(), permissions) != 0) throwSystemError();
+}
+
 void LinuxPendingFile::write(std::string_view bytes) {
   assert(!published_);
   while (!bytes.empty()) {

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include <sys/types.h>
+
 #include "platform/files.h"
 #include "platform/linux/descriptor.h"
 
@@ -21,6 +23,9 @@ class LinuxPendingFile : public PendingFile {
   // for.
   LinuxPendingFile(Descriptor folder, std::string name, Kind kind = Kind::unnamed);
   ~LinuxPendingFile() override;
+
+  // Readable by its user alone otherwise.
+  void setPermissions(mode_t permissions);
 
   void write(std::string_view bytes) override;
   void publish() override;

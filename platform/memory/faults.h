@@ -23,8 +23,8 @@ namespace zelvane::platform {
 //   FolderTree       openRoot pathNotFound
 //   OpenFolder       list deviceIo; openSubfolder, removeFile permissionDenied; removeFolder
 //                    accessError
-//   Files            exists false; open fileNotFound; readWhole deviceIo; remove, createBeside
-//                    permissionDenied
+//   Files            exists false; open fileNotFound; readWhole deviceIo; remove, createBeside,
+//                    createInPlaceOf permissionDenied
 //   PendingFile      write diskFull; publish permissionDenied
 //   ReadStream       read deviceIo
 //   RecycleBin       empty permissionDenied

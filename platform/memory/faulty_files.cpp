@@ -69,4 +69,9 @@ std::unique_ptr<PendingFile> FaultyFiles::createBeside(const std::string& target
   return std::make_unique<FaultyPendingFile>(files_.createBeside(target), target, faults_);
 }
 
+std::unique_ptr<PendingFile> FaultyFiles::createInPlaceOf(const std::string& target) {
+  faults_.throwIfItFails(ErrorNumber::permissionDenied, "Files::createInPlaceOf", target);
+  return std::make_unique<FaultyPendingFile>(files_.createInPlaceOf(target), target, faults_);
+}
+
 }  // namespace zelvane::platform

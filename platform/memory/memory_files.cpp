@@ -96,4 +96,12 @@ std::unique_ptr<PendingFile> MemoryFiles::createBeside(const std::string& target
   return std::make_unique<MemoryPendingFile>(fileSystem_, *folder, std::move(name), diskIsFull_);
 }
 
+// Nothing in memory has permissions of its own.
+std::unique_ptr<PendingFile> MemoryFiles::createInPlaceOf(const std::string& target) {
+  const MemoryNode* node = target.empty() ? nullptr : fileSystem_.find(target);
+  if (node == nullptr) throw Error(ErrorNumber::fileNotFound);
+  if (node->kind != Kind::file) throw Error(ErrorNumber::accessError);
+  return createBeside(target);
+}
+
 }  // namespace zelvane::platform

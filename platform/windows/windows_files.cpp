@@ -107,4 +107,18 @@ std::unique_ptr<PendingFile> WindowsFiles::createBeside(const std::string& targe
   return std::make_unique<WindowsPendingFile>(std::move(place.folder), std::move(place.name));
 }
 
+std::unique_ptr<PendingFile> WindowsFiles::createInPlaceOf(const std::string& target) {
+  FilePlace place = placeOf(target);
+  const Handle present =
+      openWithin(place.folder.get(), place.name, {.access = FILE_READ_ATTRIBUTES});
+  if (!present.isOpen()) throwForFile();
+  const bool isLink =
+      followsUnixLinks() && !isEntryOf(place.folder.get(), place.name, present.get());
+  if (isLink || factsOf(present.get()).kind != EntryKind::file) {
+    throw Error(ErrorNumber::accessError);
+  }
+  return std::make_unique<WindowsPendingFile>(std::move(place.folder), std::move(place.name),
+                                              WindowsPendingFile::Rights::ofFolder);
+}
+
 }  // namespace zelvane::platform

@@ -215,6 +215,32 @@ TEST_P(FilesContract, AFolderInTheTargetsPlaceIsRefusedAndNothingIsLeft) {
   EXPECT_EQ(bed->entries("folder/target"), 0U);
 }
 
+TEST_P(FilesContract, AFileInPlaceOfAnotherReplacesIt) {
+  bed->addFile("folder/file", "old");
+
+  const auto file = bed->files().createInPlaceOf(bed->path("folder/file"));
+  file->write("new");
+  file->publish();
+
+  EXPECT_EQ(bed->content("folder/file"), "new");
+  EXPECT_EQ(bed->entries("folder"), 1U);
+}
+
+TEST_P(FilesContract, NothingIsMadeInPlaceOfALinkAFolderOrNothing) {
+  if (const std::string why = bed->whyNoLinks(); !why.empty()) GTEST_SKIP() << why;
+  bed->addFolder("folder");
+  bed->addFile("target", "kept");
+  bed->addLink("link", bed->path("target"));
+
+  for (const std::string name : {"folder", "link"}) {
+    EXPECT_EQ(errorOf([&] { bed->files().createInPlaceOf(bed->path(name)); }),
+              ErrorNumber::accessError)
+        << name;
+  }
+  EXPECT_EQ(errorOf([&] { bed->files().createInPlaceOf(bed->path("nothing")); }),
+            ErrorNumber::fileNotFound);
+}
+
 TEST_P(FilesContract, AFileCannotBeCreatedInAFolderThatIsNotThere) {
   EXPECT_EQ(errorOf([&] { bed->files().createBeside(bed->path("nothing/file")); }),
             ErrorNumber::pathNotFound);

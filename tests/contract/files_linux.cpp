@@ -108,6 +108,15 @@ TEST_F(LinuxFilesTest, AFileThatReplacesAnotherDoesNotTakeOverItsPermissions) {
   EXPECT_EQ(onlyMode(), 0600U);
 }
 
+TEST_F(LinuxFilesTest, OneInPlaceOfAnotherHasThatOnesPermissions) {
+  folder.write("file");
+  fs::permissions(folder / "file", static_cast<fs::perms>(0640));
+
+  files.createInPlaceOf(folder / "file")->publish();
+
+  EXPECT_EQ(onlyMode(), 0640U);
+}
+
 TEST_F(LinuxFilesTest, APendingFileHasNoNameAtAll) {
   const auto file = files.createBeside(folder / "file");
   file->write("content");

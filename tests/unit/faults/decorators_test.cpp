@@ -136,6 +136,9 @@ std::vector<Decorated> everyCall() {
        "false", "error 70"},
       {"Files::createBeside", kNew,
        [](auto& d) { return told(d.files.createBeside(kNew) != nullptr); }, "true", "error 70"},
+      {"Files::createInPlaceOf", kLetter,
+       [](auto& d) { return told(d.files.createInPlaceOf(kLetter) != nullptr); }, "true",
+       "error 70"},
       {"PendingFile::write", kNew,
        [](auto& d) {
          d.files.createBeside(kNew)->write("text");
