@@ -1,7 +1,9 @@
-// A registry some of whose keys stand for what other programs keep.
+// A registry some of whose keys and values stand for what other programs keep.
 #pragma once
 
 #include <functional>
+#include <map>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,8 +11,9 @@
 
 namespace zelvane::platform {
 
-// Over any desktop's registry. A live key is one below the current user; deleting it erases the
-// lists that it stands for, wherever they lie, together with the key itself. All else is that
+// Over any desktop's registry, below the current user. Deleting a live key erases the lists that it
+// stands for, wherever they lie, together with the key itself. What is written as a live value is
+// written into the registry as any, and then told to those whom it concerns. All else is that
 // registry's.
 class LiveRegistry : public Registry {
  public:
@@ -19,22 +22,29 @@ class LiveRegistry : public Registry {
     std::function<void()> erase;  // what it cannot erase it leaves, and throws nothing
   };
 
+  enum class Answers {
+    asItStands,  // what it stands for, as far as that can be told; otherwise as was written
+    asWritten,   // what was written, if anything was; otherwise as it stands
+  };
+
+  // A text. The functions throw nothing.
+  struct LiveValue {
+    std::string path;
+    std::string name;
+    std::function<void(const std::string& text)> written;  // once it is written
+    std::function<std::optional<std::string>()> present = nullptr;
+    Answers answers = Answers::asWritten;
+  };
+
   // `registry` is borrowed.
-  LiveRegistry(Registry& registry, std::vector<LiveKey> keys);
+  LiveRegistry(Registry& registry, std::vector<LiveKey> keys, std::vector<LiveValue> values = {});
 
   std::optional<std::string> check() override { return registry_.check(); }
-  Opened open(Root root, const std::string& path) override { return registry_.open(root, path); }
-  Opened create(Root root, const std::string& path) override {
-    return registry_.create(root, path);
-  }
-  void close(Key key) override { registry_.close(key); }
-  std::optional<Value> query(Key key, const std::string& name) const override {
-    return registry_.query(key, name);
-  }
-  Result set(Key key, const std::string& name, Type type,
-             std::span<const std::byte> data) override {
-    return registry_.set(key, name, type, data);
-  }
+  Opened open(Root root, const std::string& path) override;
+  Opened create(Root root, const std::string& path) override;
+  void close(Key key) override;
+  std::optional<Value> query(Key key, const std::string& name) const override;
+  Result set(Key key, const std::string& name, Type type, std::span<const std::byte> data) override;
   Result deleteValue(Key key, const std::string& name) override {
     return registry_.deleteValue(key, name);
   }
@@ -43,8 +53,13 @@ class LiveRegistry : public Registry {
   Result deleteKey(Root root, const std::string& path) override;
 
  private:
+  Opened withValues(Root root, const std::string& path, Opened opened);
+  const LiveValue* liveValue(Key key, const std::string& name) const;
+
   Registry& registry_;
   std::vector<LiveKey> keys_;
+  std::vector<LiveValue> values_;
+  std::map<Key, std::string> open_;  // the paths of those open keys that have live values
 };
 
 }  // namespace zelvane::platform
