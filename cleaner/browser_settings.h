@@ -1,5 +1,6 @@
 // The browser's own settings that the cleaner reads and forces. They are registry values below
-// HKEY_CURRENT_USER; a key that is missing is never created, and then nothing is written.
+// HKEY_CURRENT_USER; a key that is missing is never created, and then nothing is written. Which
+// browsers follow them is the desktop's affair.
 #pragma once
 
 #include <optional>

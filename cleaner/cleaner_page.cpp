@@ -25,10 +25,17 @@ CleanerPage::CleanerPage() {
   cmdDefaultSettings1.setDescription("Sets the usual ticks on this page.");
   rtfMessage.setDescription("What a cleaning erased is told here.");
   cmdHomePage.setDescription(
-      "Makes this address the browser's start page, now and at every start.");
-  txtHomePageURL.setDescription("The address of your home page.");
+      "Makes this address your browsers' start page, now and at every start of Zelvane. Open "
+      "browsers "
+      "follow at the next start after they are closed.");
+  txtHomePageURL.setDescription(
+      "The address of your home page. Empty means a blank page. A browser that guards its start "
+      "page "
+      "against other programs, as Chrome does on Windows, keeps its own: set it there by hand.");
   chkWebAddress.setDescription(
-      "Acts at once: ticked, the browser no longer suggests addresses while you type.");
+      "Acts at once, on browsers that are closed: ticked, they no longer suggest addresses while "
+      "you "
+      "type.");
 }
 
 }  // namespace zelvane::cleaner

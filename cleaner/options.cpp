@@ -36,10 +36,14 @@ constexpr std::array<Option, kOptionCount> kOptions{{
     {"Delete Windows start menu \"run\" history", OptionTab::cleanComputer, Task::runHistory,
      "Erasing Windows Start Run History", "Erases the commands that you typed into the Run box."},
     {"Disable Script Debugging", OptionTab::cleanInternet, Task::scriptDebugging, "",
-     "Asks the browser not to offer to debug pages. Not undone when you untick it."},
+     "Notes for the system's own browser not to offer to debug pages. Others have no such switch. "
+     "Not "
+     "undone when you untick it."},
     {"Don't Display a Notification About Every Script Error", OptionTab::cleanInternet,
      Task::scriptErrors, "",
-     "Asks the browser to keep quiet about errors in pages. Not undone when you untick it."},
+     "Notes for the system's own browser to keep quiet about errors in pages. Others do so anyway. "
+     "Not "
+     "undone when you untick it."},
 }};
 
 namespace {

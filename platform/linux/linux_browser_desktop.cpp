@@ -13,6 +13,7 @@
 #include "platform/linux/descriptor.h"
 #include "platform/linux/folder_entries.h"
 #include "platform/linux/open_files_snapshot.h"
+#include "platform/linux/private_folder.h"
 #include "platform/linux/system_error.h"
 #include "platform/shared/browsers/browser.h"
 
@@ -133,5 +134,7 @@ void LinuxBrowserDesktop::putInPlace(const std::string& fresh, const std::string
 void LinuxBrowserDesktop::rename(const std::string& from, const std::string& to) const {
   renameBeside(from, to, RENAME_NOREPLACE);
 }
+
+void LinuxBrowserDesktop::provideFolder(const std::string& path) const { makePrivateFolder(path); }
 
 }  // namespace zelvane::platform

@@ -26,6 +26,7 @@ class LinuxBrowserDesktop : public BrowserDesktop {
   void putInPlace(const std::string& fresh, const std::string& path,
                   const std::string& aside) const override;
   void rename(const std::string& from, const std::string& to) const override;
+  void provideFolder(const std::string& path) const override;
 
  private:
   UserFolders folders_;

@@ -179,4 +179,9 @@ void WindowsBrowserDesktop::rename(const std::string& from, const std::string& t
   move(from, to);
 }
 
+// It is the program's own folder, so it is there.
+void WindowsBrowserDesktop::provideFolder(const std::string& path) const {
+  if (kindOf(path) != PathKind::folder) throw Error(ErrorNumber::pathNotFound, path);
+}
+
 }  // namespace zelvane::platform

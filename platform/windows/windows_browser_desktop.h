@@ -31,6 +31,7 @@ class WindowsBrowserDesktop : public BrowserDesktop {
   void putInPlace(const std::string& fresh, const std::string& path,
                   const std::string& aside) const override;
   void rename(const std::string& from, const std::string& to) const override;
+  void provideFolder(const std::string& path) const override;
 
  private:
   bool isHeld(const std::string& path) const;

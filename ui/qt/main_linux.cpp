@@ -19,7 +19,10 @@
 #include "platform/linux/linux_special_folders.h"
 #include "platform/linux/recently_used.h"
 #include "platform/linux/run_history.h"
+#include "platform/shared/browsers/browser_settings.h"
 #include "platform/shared/browsers/browser_traces.h"
+#include "platform/shared/browsers/former_pages.h"
+#include "platform/shared/browsers/live_browser_values.h"
 #include "platform/shared/live_folders.h"
 #include "platform/shared/live_registry.h"
 #include "ui/qt/application.h"
@@ -51,12 +54,17 @@ struct LinuxDesktop {
   platform::LinuxFolderTree wholeTree{{.listsHiddenFiles = true}};
   platform::LeftTraces leftTraces;
   platform::BrowserTraces browserTraces{browsers, wholeTree, files, leftTraces};
+  qt::QtNotifications notifications;
+  platform::FormerPages formerPages{identity.dataFolder(), browsers, files};
+  platform::BrowserSettings browserSettings{browsers, files, formerPages, notifications};
   platform::RunHistory runHistory{environment, files};
-  platform::LiveRegistry registry{hive,
-                                  {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
-                                    [this] { browserTraces.eraseTyped(); }},
-                                   {R"(Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU)",
-                                    [this] { runHistory.erase(); }}}};
+  platform::LiveRegistry registry{
+      hive,
+      {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
+        [this] { browserTraces.eraseTyped(); }},
+       {R"(Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU)",
+        [this] { runHistory.erase(); }}},
+      platform::liveBrowserValues(browserSettings, platform::LiveRegistry::Answers::asItStands)};
   platform::LiveFolders folders{plainFolders, plainTree, {recentlyUsed, browserTraces}};
   platform::LinuxRecycleBin recycleBin{environment};
   platform::LinuxSingleInstance instance{environment};
@@ -65,7 +73,6 @@ struct LinuxDesktop {
   qt::QtDialogs dialogs;
   qt::QtWindowCommands window;
   qt::QtEventPump pump;
-  qt::QtNotifications notifications;
 
   platform::Desktop ports() {
     return {.identity = identity,

@@ -8,7 +8,10 @@
 #include "core/main_window/startup.h"
 #include "platform/desktop.h"
 #include "platform/left_traces.h"
+#include "platform/shared/browsers/browser_settings.h"
 #include "platform/shared/browsers/browser_traces.h"
+#include "platform/shared/browsers/former_pages.h"
+#include "platform/shared/browsers/live_browser_values.h"
 #include "platform/shared/live_folders.h"
 #include "platform/shared/live_registry.h"
 #include "platform/windows/explorer_history.h"
@@ -60,15 +63,20 @@ struct WindowsDesktop {
       {.way = platform::WindowsFolderTree::usualWay(), .listsHiddenFiles = true}};
   platform::LeftTraces leftTraces;
   platform::BrowserTraces browserTraces{browsers, wholeTree, files, leftTraces};
+  win32::Win32Notifications notifications;
+  platform::FormerPages formerPages{identity.dataFolder(), browsers, files};
+  platform::BrowserSettings browserSettings{browsers, files, formerPages, notifications};
   platform::ExplorerHistory explorer{systemRegistry};
-  platform::LiveRegistry registry{systemRegistry,
-                                  {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
-                                    [this] {
-                                      explorer.eraseTyped();
-                                      browserTraces.eraseTyped();
-                                    }},
-                                   {R"(Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU)",
-                                    [this] { explorer.eraseRun(); }}}};
+  platform::LiveRegistry registry{
+      systemRegistry,
+      {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
+        [this] {
+          explorer.eraseTyped();
+          browserTraces.eraseTyped();
+        }},
+       {R"(Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU)",
+        [this] { explorer.eraseRun(); }}},
+      platform::liveBrowserValues(browserSettings, platform::LiveRegistry::Answers::asWritten)};
   platform::LiveFolders folders{plainFolders, plainTree, {browserTraces}};
   platform::WindowsRecycleBin recycleBin{[this] { return owner; }};
   platform::WindowsSingleInstance instance;
@@ -77,7 +85,6 @@ struct WindowsDesktop {
   win32::Win32Dialogs dialogs;
   win32::Win32WindowCommands window;
   win32::Win32EventPump pump;
-  win32::Win32Notifications notifications;
 
   platform::Desktop ports() {
     return {.identity = identity,

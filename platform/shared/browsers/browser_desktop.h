@@ -48,8 +48,13 @@ class BrowserDesktop {
   virtual void putInPlace(const std::string& fresh, const std::string& path,
                           const std::string& aside) const = 0;
 
-  // Gives a folder a name beside it, which nothing has; durable. Throws where the system refuses.
+  // Gives a folder or a file a name beside it, which nothing has; durable. Throws where the system
+  // refuses.
   virtual void rename(const std::string& from, const std::string& to) const = 0;
+
+  // Makes the program's own data folder where it may be missing, for its user alone. Throws where
+  // it is not there then.
+  virtual void provideFolder(const std::string& path) const = 0;
 };
 
 }  // namespace zelvane::platform

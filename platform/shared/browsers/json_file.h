@@ -11,8 +11,8 @@
 
 namespace zelvane::platform {
 
-// Nothing where there is no such file. Throws for a link, for more than 64 MiB, and for what is no
-// JSON.
+// Nothing where there is no such file. Throws for a link, for more than 64 MiB, for what is no
+// JSON, and for what is nested deeper than any browser's.
 std::optional<nlohmann::json> readJson(const std::string& path, const BrowserDesktop& desktop,
                                        const Files& files);
 
