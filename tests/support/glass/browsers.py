@@ -29,10 +29,17 @@ class Browser:
         self._process = None
         self._prepare()
 
+    def start_as_from_menu(self):
+        """Without an address: it opens what it is set to."""
+        self._start()
+
     def start(self, address="about:blank"):
+        self._start(address)
+
+    def _start(self, *addresses):
         log = open(self._home.runtime / f"{self.name}.log", "ab")
         self._process = processes.start(
-            [*self._command(), address], env=self._desktop.environment(self._home),
+            [*self._command(), *addresses], env=self._desktop.environment(self._home),
             cwd=self._home.home, stdin=subprocess.DEVNULL, stdout=log, stderr=log,
             start_new_session=True)
         self._hands.wait_for_window()

@@ -1,0 +1,123 @@
+#!/usr/bin/python3
+"""The home page that the user chose in the window is the page that the real browsers start with."""
+
+import itertools
+import json
+
+from support import checks
+
+from desktop import hive
+from desktop.program import Program
+from desktop.waiting import wait_until
+from glass.browsers import Chromium, Firefox
+from glass.server import Answer, Server
+from glass.tokens import Manifest
+
+HOST = "127.0.0.1"
+_numbers = itertools.count(1)
+
+
+class House:
+    """A home in which each browser was used once, and a web that tells which pages they open."""
+
+    def __init__(self, bed, server, *kinds):
+        self.bed = bed
+        # Chromium puts a socket into the home's temporary folder, whose path may not be long.
+        self.home = bed.desktop.new_home(f"page{next(_numbers)}")
+        self.server = server
+        self.browsers = [kind(bed.desktop, self.home, server, Manifest(), "default")
+                         for kind in kinds]
+        for browser in self.browsers:
+            self.use(browser)
+
+    def page(self, name):
+        """The address of a page that says its name."""
+        return self.server.serve(f"{HOST}", f"/{name}", Answer(f"<title>{name}</title>{name}"))
+
+    def use(self, browser, opens=None):
+        """Starts it without an address, as from a menu, until it has opened that one."""
+        browser.start_as_from_menu()
+        try:
+            if opens is not None:
+                wait_until(lambda: opens in self.server.visited,
+                           f"{browser.name} opens {opens}; so far: {self.server.visited}", 30)
+            browser.close()
+        except AssertionError:
+            browser.kill()  # its window would be in the way of the next test
+            raise
+
+    def program(self):
+        return Program(self.bed.path, self.bed.desktop, self.home)
+
+    def choose(self, address):
+        with self.program() as program:
+            window = program.window()
+            window.come_forward()
+            window.home_page.focus()
+            wait_until(lambda: window.home_page.is_focused, "the box has the focus")
+            self.bed.desktop.key("ctrl+a", "Delete")
+            self.bed.desktop.type(address)
+            wait_until(lambda: window.home_page.text() == address, "the address is typed")
+            window.press("Set Home Page")
+            wait_until(lambda: hive.texts(self.home, hive.BROWSER)["Start Page"] == address,
+                       "the address is written")
+
+    def start_program(self):
+        with self.program() as program:
+            program.window()
+
+
+def each_browser_opens_the_page_that_was_set(bed):
+    with Server() as server:
+        house = House(bed, server, Firefox, Chromium)
+        for number, browser in enumerate(house.browsers):
+            address = house.page(f"mine{number}")
+            house.choose(address)
+
+            house.use(browser, opens=address)
+
+
+def an_address_without_its_protocol_is_opened_too(bed):
+    with Server() as server:
+        house = House(bed, server, Firefox, Chromium)
+        for number, browser in enumerate(house.browsers):
+            address = house.page(f"short{number}")
+            house.choose(address.removeprefix("http://"))
+
+            house.use(browser, opens=address)
+
+
+def a_page_that_slipped_in_is_gone_at_the_next_start_of_both(bed):
+    with Server() as server:
+        house = House(bed, server, Firefox, Chromium)
+        mine, theirs = house.page("mine"), house.page("theirs")
+        house.choose(mine)
+        firefox, chromium = house.browsers
+        prefs = firefox.folder / "prefs.js"
+        prefs.write_text(prefs.read_text("utf-8").replace(mine, theirs), "utf-8")
+        preferences = chromium.folder / "Preferences"
+        preferences.write_text(preferences.read_text("utf-8").replace(mine, theirs), "utf-8")
+
+        house.start_program()
+
+        for browser in house.browsers:
+            server.visited.clear()
+            house.use(browser, opens=mine)
+            assert theirs not in server.visited, f"{browser.name} opened {theirs}"
+
+
+def what_they_started_with_before_is_noted(bed):
+    with Server() as server:
+        house = House(bed, server, Firefox, Chromium)
+
+        house.start_program()
+
+        file = house.home.data / "zelvane" / "start-pages.json"
+        noted = json.loads(file.read_text("utf-8"))["profiles"]
+        assert sorted(noted) == sorted(str(browser.folder) for browser in house.browsers), noted
+
+
+checks.run(each_browser_opens_the_page_that_was_set,
+           an_address_without_its_protocol_is_opened_too,
+           a_page_that_slipped_in_is_gone_at_the_next_start_of_both,
+           what_they_started_with_before_is_noted)
