@@ -56,10 +56,10 @@ windows       wine64              file:/usr/lib/wine/wine64          the same, t
 windows       fonts-wine          file:/usr/share/wine/fonts/tahoma.ttf  letters as wide as Windows' own
 browsers      firefox-esr         command:firefox-esr                a real browser
 browsers      chromium            command:chromium                   a real browser of the other family
-browsers      python3-brotli      lib:python3*/*-packages/brotli*    unpacks what browsers have packed
-browsers      python3-lz4         lib:python3*/*-packages/lz4        the same
-browsers      python3-snappy      lib:python3*/*-packages/snappy*    the same
-browsers      python3-zstandard   lib:python3*/*-packages/zstandard  the same
+glass         python3-brotli      lib:python3*/*-packages/brotli*    unpacks what browsers have packed
+glass         python3-lz4         lib:python3*/*-packages/lz4        the same
+glass         python3-snappy      lib:python3*/*-packages/snappy*    the same
+glass         python3-zstandard   lib:python3*/*-packages/zstandard  the same
 abroad        locales             file:/usr/share/i18n/locales/tr_TR  how other languages write
 abroad        tzdata              file:/usr/share/zoneinfo/Australia/Lord_Howe  what time it is elsewhere
 asan,tidy     clang-14            command:clang++-14                 builds for the sanitizers and for clang-tidy

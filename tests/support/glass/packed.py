@@ -62,17 +62,19 @@ def zstds(data):
 
 
 def snappy_streams(data):
+    """Chunks: kind 1 | length 3, the low one first | of kinds 0 and 1: sum 4 | packed, or as it is.
+    Read here, as the library's own reader of streams fails on any."""
     for place in _places(_SNAPPY_STREAM, data):
-        unpacker, parts = snappy.StreamDecompressor(), []
-        at = place
-        try:
-            # A chunk: one byte of kind, three of length with the low one first, the rest.
-            while at + 4 <= len(data):
-                end = at + 4 + int.from_bytes(data[at + 1:at + 4], "little")
-                parts.append(unpacker.decompress(data[at:end]))
-                at = end
-        except Exception:  # The library has no one kind for all that may be wrong.
-            pass
+        parts, at = [], place
+        while at + 4 <= len(data):
+            end = at + 4 + int.from_bytes(data[at + 1:at + 4], "little")
+            if data[at] == 0:
+                parts.append(unsnapped(data[at + 8:end]))
+            elif data[at] == 1:
+                parts.append(data[at + 8:end])
+            elif data[at] < 0x80:
+                break
+            at = end
         yield "snappy stream", b"".join(parts)
 
 
@@ -116,7 +118,6 @@ def zips(data):
         try:
             with zipfile.ZipFile(io.BytesIO(data)) as archive:
                 for entry in archive.infolist():
-                    yield "name in zip", entry.filename.encode()
                     if entry.file_size <= MOST:
                         yield f"zip {entry.filename}", archive.read(entry)
         except (zipfile.BadZipFile, zlib.error, RuntimeError, NotImplementedError, OSError,

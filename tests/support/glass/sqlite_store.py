@@ -21,18 +21,21 @@ def is_store(head):
 
 
 def columns(path):
-    """Yields, of each column, its name and its cells: bytes, numbers, None. A copy is opened,
-    as opening would alter the files; what belongs to it, -wal and -journal, is copied along."""
-    with tempfile.TemporaryDirectory(prefix="glass-") as folder:
-        copy = os.path.join(folder, "store")
-        for ending in ("", "-wal", "-journal"):
-            with contextlib.suppress(FileNotFoundError):
-                shutil.copyfile(path + ending, copy + ending)
-        try:
-            yield from _columns(copy)
-        except sqlite3.Error as error:
-            # Damaged, or not a store at all; its bytes are searched all the same.
-            yield f"(unreadable: {error})", []
+    """Yields, of each column, its name and its cells: bytes, numbers, None. Copies are opened, as
+    opening would alter the files: one with what belongs to it, -wal and -journal, and where there is
+    any, one without, which shows what these have deleted or would undo."""
+    beside = [ending for ending in ("-wal", "-journal") if os.path.exists(path + ending)]
+    for endings in (["", *beside], [""])[:1 + bool(beside)]:
+        with tempfile.TemporaryDirectory(prefix="glass-") as folder:
+            copy = os.path.join(folder, "store")
+            for ending in endings:
+                with contextlib.suppress(FileNotFoundError):
+                    shutil.copyfile(path + ending, copy + ending)
+            try:
+                yield from _columns(copy)
+            except sqlite3.Error as error:
+                # Damaged, or not a store at all; its bytes are searched all the same.
+                yield f"(unreadable: {error})", []
 
 
 def place_in(data, offset):
