@@ -1,131 +1,137 @@
-"""The real browsers, used by hand: each journeys through the web in a profile of a home."""
+"""The real browsers: each journeys through the web in a profile of a home.
 
+Links are clicked and fields filled in on the browser's own line for orders, which clicks what is there
+when it is there; pages cannot tell the difference. What is typed where addresses are typed takes the
+same way as from a keyboard.
+"""
+
+import os
+import pathlib
+import signal
 import subprocess
 
 from desktop import processes
 from desktop.waiting import TookTooLong, wait_until
 
-from glass import sqlite_store
+from glass.devtools import DevTools, Refused
+from glass.extension import Extension
 from glass.hands import Hands
+from glass.marionette import ENTER, Marionette
 from glass.pages import Journey
+from glass.tokens import KEEP
 
-CLICKS = 12  # a page that was only just shown takes no clicks
+TRIES = 8  # a page that was only just shown takes no clicks
+SOON = 5  # seconds; what has not come of a click by then never will
+AT_START = 90  # seconds; both browsers at once, on a busy machine
 
 
 class Browser:
     """One profile of a browser. It is closed by its user, or killed."""
 
-    title = ""
     name = ""
+    profile = ""
 
-    def __init__(self, desktop, home, server, manifest, profile):
-        self.profile = profile
-        self.folder = self._folder(home)
-        self.journey = Journey(server, manifest, self.name, profile)
+    def __init__(self, desktop, home, server, manifest):
+        self.home = home
+        self.folder = self._folder_in(home)
+        self.journey = Journey(server, manifest, self.name, self.profile)
+        self.extension = Extension(home.home.parent / f"{self.name}-{self.profile}", server,
+                                   self.journey)
         self._desktop = desktop
-        self._home = home
         self._server = server
-        self._hands = Hands(self.title)
         self._process = None
-        self._prepare()
 
-    def start_as_from_menu(self):
-        """Without an address: it opens what it is set to."""
-        self._start()
-
-    def start(self, address="about:blank"):
-        self._start(address)
-
-    def _start(self, *addresses):
-        log = open(self._home.runtime / f"{self.name}.log", "ab")
-        self._process = processes.start(
-            [*self._command(), *addresses], env=self._desktop.environment(self._home),
-            cwd=self._home.home, stdin=subprocess.DEVNULL, stdout=log, stderr=log,
-            start_new_session=True)
-        self._hands.wait_for_window()
+    def at(self, home):
+        """The same profile in a copy of the home, without a journey of its own."""
+        other = object.__new__(type(self))
+        other.__dict__.update(self.__dict__, home=home, folder=other._folder_in(home))
+        return other
 
     def travel(self):
         """Goes through all pages of the journey, and leaves the last one open."""
-        hands, journey = self._hands, self.journey
+        journey = self.journey
         self.start(journey.addresses["first"])
-        self._server.wait_for(journey.event("first"))
+        self._server.wait_for(journey.event("first"), AT_START)
+        self._extend()
+        self._server.wait_for(self.extension.began, 60)
         for page in ("secure", "form"):
-            self._click_to(page)
-        self._fill_in()
-        self._click_to("kept")
+            self._until_told(page, self._click)
+        self._until_told("posted", self._fill_in)
+        self._until_told("kept", self._click)
+        self._server.wait_for_visit(journey.addresses["keptsicon"])
         self._bookmark()
-        self._click_to("download")
-        self._download()
-        hands.go_to(journey.addresses["typed"].removeprefix("http://"))
-        self._server.wait_for(journey.event("typed"))
-        hands.press("ctrl+t")
-        hands.go_to(journey.addresses["closedtab"])
-        self._server.wait_for(journey.event("closedtab"))
-        hands.press("ctrl+w")
-        hands.press("ctrl+t")
-        hands.go_to(journey.addresses["opentab"])
-        self._server.wait_for(journey.event("opentab"))
+        self._until_told("download", self._click)
+        self._until(lambda: journey.addresses["file"] in self._server.visited, self._click,
+                    "the download begins")
+        self.go_to("typed")
+        self._open_tab()
+        self.go_to("closedtab")
+        self._close_tab()
+        self._open_tab()
+        self.go_to("opentab")
+        self._keep_a_password(f"http://{self.journey.token('passwordhost', KEEP)}.test",
+                              self.journey.token("user", KEEP))
+        self._choose()
+        wait_until(self._has_stored_it, f"{self.name} has stored its journey", 60)
 
-    def close(self):
-        self._hands.press(self.quit_keys)
-        wait_until(lambda: self._process.poll() is not None, f"{self.name} ends", 30)
-        self._hands.forget_window()
+    def go_to(self, page):
+        """Types the page's address."""
+        self._until_told(page, lambda: self._type_address(
+            self.journey.addresses[page].removeprefix("http://")))
 
     def kill(self):
         """With all that it has started."""
-        processes.kill_all_of(self._home.home)
-        self._process.wait()
-        self._hands.forget_window()
+        if self._process and self._process.poll() is None:
+            os.killpg(self._process.pid, signal.SIGKILL)
+            self._ended()
 
-    def _fill_in(self):
-        def act():
-            self._hands.click_page()
-            self._hands.type(self.journey.texts["field"])
-            self._hands.press("Return")
-        self._until_told("posted", act)
+    def freeze(self):
+        os.killpg(self._process.pid, signal.SIGSTOP)
 
-    def _click_to(self, page):
-        self._until_told(page, self._hands.click_page)
+    def thaw(self):
+        os.killpg(self._process.pid, signal.SIGCONT)
+
+    def _ended(self):
+        self._process.wait(60)
+        # Its other processes go a moment later than itself.
+        wait_until(lambda: not _is_held_open(self.folder.parent), f"{self.name} lets go", 60)
+        self._hang_up()
+
+    def _log(self):
+        return open(self.home.runtime / f"{self.name}-{self.profile}.log", "ab")
 
     def _until_told(self, page, act):
-        for _ in range(CLICKS):
-            # A second click on a page that is on its way would lead on from it too early.
-            if self.journey.addresses[page] not in self._server.visited:
+        address = self.journey.addresses[page]
+        # A second click on a page that is on its way would lead on from it too early.
+        self._until(lambda: address in self._server.visited, act, f"the page \"{page}\" is asked for")
+        self._server.wait_for(self.journey.event(page), 60)
+
+    def _until(self, done, act, what):
+        for _ in range(TRIES):
+            try:
                 act()
-            try:
-                return self._server.wait_for(self.journey.event(page), 1)
-            except TookTooLong:
-                continue
-        raise TookTooLong(f"{CLICKS} clicks did not lead to the page \"{page}\"")
+            except Refused as reason:
+                what = f"{what} ({reason})"
+            if self._server.wait_until(done, SOON):
+                return
+        raise TookTooLong(f"{TRIES} times were not enough: {what}")
 
-    def _download(self):
-        """Until it is asked for: not every browser finishes one from a server like this."""
-        for _ in range(CLICKS):
-            self._hands.click_page()
-            try:
-                return wait_until(
-                    lambda: self.journey.addresses["file"] in self._server.visited, "", 1)
-            except TookTooLong:
-                continue
-        raise TookTooLong(f"{CLICKS} clicks did not begin the download")
-
-    def _bookmark(self):
-        self._hands.press("ctrl+d")
-
-        def bookmarked():
-            self._hands.press("Return")  # to the question that comes with it
-            return self._is_bookmarked()
-        wait_until(bookmarked, f"{self.name} has stored the bookmark")
+    def _has_stored_it(self):
+        """So that a browser that is killed has left something."""
+        wanted = [self.journey.texts["lasttitle"].encode(), self.journey.texts["bookmark"].encode()]
+        stored = b"".join(path.read_bytes() for name in self.stored_in
+                          for path in self.folder.glob(name))
+        return all(text in stored for text in wanted)
 
 
 class Firefox(Browser):
     name = "firefox"
-    title = "Mozilla Firefox"
-    quit_keys = "ctrl+q"
+    stored_in = ("places.sqlite*",)
 
     PREFERENCES = {
         "network.dns.forceResolve": '"127.0.0.1"',
         "browser.aboutwelcome.enabled": "false",
+        "browser.bookmarks.editDialog.showForNewBookmarks": "false",
         "datareporting.policy.dataSubmissionEnabled": "false",
         "browser.shell.checkDefaultBrowser": "false",
         "browser.startup.homepage_override.mstone": '"ignore"',
@@ -133,46 +139,210 @@ class Firefox(Browser):
         "browser.tabs.warnOnClose": "false",
         "dom.security.https_first": "false",
         "dom.security.https_first_schemeless": "false",
+        "xpinstall.signatures.required": "false",
+        "extensions.autoDisableScopes": "0",
+        "services.settings.load_dump": "false",  # megabytes of what every profile has
+        "marionette.port": "0",
+        # Otherwise it would be another browser, with other habits of storing.
+        "remote.prefs.recommended": "false",
     }
 
-    def _folder(self, home):
+    def start(self, address="about:blank"):
+        listening = self.folder / "MarionetteActivePort"
+        self.folder.mkdir(parents=True, exist_ok=True)
+        listening.unlink(missing_ok=True)
+        (self.folder / "user.js").write_text(
+            "".join(f'user_pref("{name}", {value});\n' for name, value in self.PREFERENCES.items()),
+            "ascii")
+        with self._log() as log:
+            self._process = processes.start(
+                ["firefox-esr", "--profile", str(self.folder), "--no-remote", "--marionette", "--remote-allow-system-access",
+                 address], env=self._desktop.environment(self.home), cwd=self.home.home,
+                stdin=subprocess.DEVNULL, stdout=log, stderr=log, start_new_session=True)
+        self.orders = wait_until(lambda: Marionette(int(listening.read_text())),
+                                 "Firefox listens", AT_START,
+                                 refused=(FileNotFoundError, ValueError, ConnectionError))
+
+    def close(self):
+        self.orders.quit()
+        self._ended()
+
+    def _hang_up(self):
+        self.orders.hang_up()
+
+    def _click(self):
+        self.orders.click("a")
+
+    def _fill_in(self):
+        self.orders.type_into("input", self.journey.texts["field"] + ENTER)
+
+    def _type_address(self, address):
+        self.orders.type_address(address)
+
+    def _bookmark(self):
+        self.orders.in_window("return PlacesCommandHook.bookmarkPage();")
+
+    def _extend(self):
+        self.orders.install(self.extension.package)
+
+    def _keep_a_password(self, address, user):
+        self.orders.in_window("""
+            const login = Cc["@mozilla.org/login-manager/loginInfo;1"].createInstance(Ci.nsILoginInfo);
+            login.init(arguments[0], arguments[0], null, arguments[1], "secret", "", "");
+            return Services.logins.addLoginAsync(login).then(() => null);""", address, user)
+
+    def _choose(self):
+        """A setting that is not the usual one."""
+        self.orders.in_window("Services.prefs.setBoolPref('browser.tabs.loadInBackground', false);")
+
+    def _open_tab(self):
+        self.orders.in_window("BrowserCommands.openTab();")
+
+    def _close_tab(self):
+        self.orders.in_window("gBrowser.removeCurrentTab();")
+
+
+class UsualFirefox(Firefox):
+    """In the folder that today's versions make."""
+
+    profile = "usual"
+
+    @classmethod
+    def _folder_in(cls, home):
         return home.config / "mozilla" / "firefox" / "abcd.default"
 
-    def _prepare(self):
-        self.folder.mkdir(parents=True)
-        lines = [f'user_pref("{name}", {value});\n' for name, value in self.PREFERENCES.items()]
-        (self.folder / "user.js").write_text("".join(lines), "ascii")
-        (self.folder.parent / "profiles.ini").write_text(
-            f"[Profile0]\nName={self.profile}\nIsRelative=1\nPath={self.folder.name}\nDefault=1\n",
-            "ascii")
+    @classmethod
+    def list_profiles(cls, home):
+        """Writes the browser's own list of its profiles."""
+        (cls._folder_in(home).parent / "profiles.ini").write_text(
+            "[Profile0]\nName=usual\nIsRelative=1\nPath=abcd.default\nDefault=1\n", "ascii")
 
-    def _is_bookmarked(self):
-        title = self.journey.texts["bookmark"].encode()
-        return any(name == "moz_bookmarks.title" and title in cells
-                   for name, cells in sqlite_store.columns(str(self.folder / "places.sqlite")))
 
-    def _command(self):
-        return ["firefox-esr", "--profile", str(self.folder), "--no-remote", "--width", "1000",
-                "--height", "800"]
+class MovedFirefox(Firefox):
+    """In a folder that its user has chosen, listed in the folder that older versions made."""
+
+    profile = "moved"
+
+    @classmethod
+    def _folder_in(cls, home):
+        return home.home / "Moved" / "my profile"
+
+    @classmethod
+    def list_profiles(cls, home):
+        folder = home.home / ".mozilla" / "firefox"
+        folder.mkdir(parents=True, exist_ok=True)
+        (folder / "profiles.ini").write_text(
+            f"[Profile0]\nName=moved\nIsRelative=0\nPath={cls._folder_in(home)}\nDefault=1\n", "utf-8")
 
 
 class Chromium(Browser):
     name = "chromium"
     title = "Chromium"
-    quit_keys = "ctrl+shift+w"
+    stored_in = ("History*", "Bookmarks")
+    profile = "default"
+    folder_name = "Default"
 
-    def _folder(self, home):
-        return home.config / "chromium" / "Default"
+    def start(self, address="about:blank"):
+        with self._log() as log:
+            self.orders = DevTools(
+                ["chromium", f"--user-data-dir={self.folder.parent}",
+                 f"--profile-directory={self.folder_name}", "--no-sandbox", "--no-first-run",
+                 "--password-store=basic", f"--load-extension={self.extension.folder}",
+                 "--disable-features=DisableLoadExtensionCommandLineSwitch", "--window-size=1000,800", "--window-position=0,0",
+                 "--host-resolver-rules=MAP * 127.0.0.1", address],
+                env=self._desktop.environment(self.home), cwd=self.home.home, stdout=log, stderr=log)
+        self._process = self.orders.process
+        self._hands = Hands(self._process.pid, self.title)
+        page = wait_until(lambda: next(iter(self.orders.pages()), None), "Chromium is there", AT_START)
+        self._look_at(page)
 
-    def _prepare(self):
-        self.folder.mkdir(parents=True)
+    def close(self):
+        self.orders.ask("Browser.close")
+        self._ended()
+
+    @classmethod
+    def list_profiles(cls, home):
+        """It does so itself."""
+
+    @classmethod
+    def _folder_in(cls, home):
+        return home.config / "chromium" / cls.folder_name
+
+    def _hang_up(self):
+        self.orders.hang_up()
+
+    def _look_at(self, page):
+        self._page = page
+        self._session = self.orders.attach(page)
+
+    def _click(self):
+        for kind in ("mousePressed", "mouseReleased"):
+            self.orders.ask("Input.dispatchMouseEvent", self._session, type=kind, x=300, y=300,
+                            button="left", clickCount=1)
+
+    def _fill_in(self):
+        self._click()
+        self.orders.run(self._session, "document.querySelector('input').value = ''")
+        for letter in self.journey.texts["field"] + "\r":
+            self.orders.ask("Input.dispatchKeyEvent", self._session, type="char", text=letter)
+
+    def _type_address(self, address):
+        with self._hands.keyboard:
+            self._hands.go_to(address)
+            self._server.wait_until(lambda: f"http://{address}" in self._server.visited, SOON)
+
+    def _bookmark(self):
+        def bookmarked():
+            with self._hands.keyboard:
+                self._hands.press("ctrl+d")
+                self._hands.press("Return")  # to the question that comes with it
+            return wait_until(self._is_bookmarked, "", SOON)
+        wait_until(bookmarked, f"{self.name} has stored the bookmark", 60, refused=(TookTooLong,))
 
     def _is_bookmarked(self):
         bookmarks = self.folder / "Bookmarks"
         return bookmarks.exists() and self.journey.texts["bookmark"] in bookmarks.read_text("utf-8")
 
-    def _command(self):
-        return ["chromium", f"--user-data-dir={self.folder.parent}", "--profile-directory=Default",
-                "--no-sandbox", "--no-first-run", "--password-store=basic",
-                "--window-size=1000,800", "--window-position=0,0",
-                "--host-resolver-rules=MAP * 127.0.0.1"]
+    def _extend(self):
+        """It was told of it when it started."""
+
+    def _keep_a_password(self, address, user):
+        self._in_page_of_its_own("chrome://password-manager/passwords", f"""
+            chrome.passwordsPrivate.addPassword({{url: '{address}', username: '{user}',
+                password: 'secret', note: '', useAccountStore: false}})""")
+
+    def _choose(self):
+        """A setting that is not the usual one."""
+        self._in_page_of_its_own("chrome://settings/", """
+            chrome.settingsPrivate.setPref('webkit.webprefs.default_font_size', 21)""")
+
+    def _in_page_of_its_own(self, address, script):
+        page = self.orders.ask("Target.createTarget", url=address)["targetId"]
+        session = self.orders.attach(page)
+        wait_until(lambda: self.orders.run(session, script) is not False, script, 60)
+        self.orders.ask("Target.closeTarget", targetId=page)
+
+    def _open_tab(self):
+        self._look_at(self.orders.ask("Target.createTarget", url="chrome://newtab/")["targetId"])
+
+    def _close_tab(self):
+        self.orders.ask("Target.closeTarget", targetId=self._page)
+        wait_until(lambda: self._page not in self.orders.pages(), "the tab is closed")
+
+
+class SecondChromium(Chromium):
+    """Another user of the same browser."""
+    profile = "second"
+    folder_name = "Profile 1"
+
+
+def _is_held_open(folder):
+    """Whether any process has a file of the folder open."""
+    below = f"{folder}/"
+    for link in pathlib.Path("/proc").glob("[0-9]*/fd/*"):
+        try:
+            if os.readlink(link).startswith(below):
+                return True
+        except OSError:
+            pass  # It ended just now, or is somebody else's.
+    return False

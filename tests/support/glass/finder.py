@@ -79,7 +79,7 @@ class Glass:
 
     def _add_view(self, name, meanings):
         if meanings and name not in self._without:
-            self._views.append(View(name, meanings))
+            self._views.append(View(name, meanings, in_files=True))
 
     def _around(self, path, name):
         """Hits in what a file is called, where a link leads, and its attributes."""
@@ -93,6 +93,8 @@ class Glass:
 
     def _in_bytes(self, data, name, within, store=None):
         for view in self._views:
+            if view.in_files and store is None:
+                continue
             for offset, token in view.find(data):
                 place = within
                 if store is not None and (page := sqlite_store.place_in(store, offset)):

@@ -1,5 +1,5 @@
-"""Hands on a browser's window: real keys and real clicks, so that the browser takes what happens for
-its user's doing. Two pairs of hands share one keyboard: whoever types has it for as long."""
+"""Hands on a keyboard, for what a browser takes from its user's keys alone. There is one keyboard: who
+types has it until what was typed has come of it."""
 
 import subprocess
 import threading
@@ -10,20 +10,11 @@ _keyboard = threading.RLock()
 
 
 class Hands:
-    """`title` is what the browser calls its windows at the end, as in " - Chromium"."""
+    """On the window of one process."""
 
-    def __init__(self, title):
+    def __init__(self, pid, title):
+        self._pid = pid
         self._title = title
-        self._window = None
-
-    def wait_for_window(self):
-        def shown():
-            found = _xdotool("search", "--onlyvisible", "--name", self._title, check=False).split()
-            return found and found[-1]
-        self._window = wait_until(shown, f"a window \"{self._title}\" is there", 60)
-
-    def forget_window(self):
-        self._window = None
 
     @property
     def keyboard(self):
@@ -35,28 +26,30 @@ class Hands:
             self._take_the_keys()
             _xdotool("key", "--delay", "20", *keys)
 
-    def type(self, text):
-        with _keyboard:
-            self._take_the_keys()
-            _xdotool("type", "--delay", "4", text)
-
     def go_to(self, address):
         """Types it where addresses are typed."""
         with _keyboard:
             self.press("ctrl+l")
-            self.type(address)
-            self.press("Return")
-
-    def click_page(self):
-        """Clicks in the lower half of the window, far from all bars."""
-        with _keyboard:
-            self._take_the_keys()
-            _xdotool("mousemove", "--window", self._window, "400", "500", "click", "1")
+            _xdotool("type", "--delay", "4", address)
+            _xdotool("key", "Return")
 
     def _take_the_keys(self):
-        _xdotool("windowactivate", "--sync", self._window)
+        def has_them():
+            window = self._window()
+            _xdotool("windowactivate", window)
+            return window and _xdotool("getwindowfocus", check=False).strip() == window
+        wait_until(has_them, f"the window \"{self._title}\" has the keys", 60)
+
+    def _window(self):
+        found = _xdotool("search", "--onlyvisible", "--all", "--pid", str(self._pid), "--name",
+                         self._title, check=False).split()
+        if not found:
+            raise LookupError(f"no window \"{self._title}\"")
+        return found[-1]
 
 
 def _xdotool(*arguments, check=True):
-    return subprocess.run(["xdotool", *arguments], check=check, capture_output=True, text=True,
-                          timeout=PATIENCE).stdout
+    done = subprocess.run(["xdotool", *arguments], capture_output=True, text=True, timeout=PATIENCE)
+    if check and done.returncode:
+        raise LookupError(f"xdotool {' '.join(arguments)}: {done.stderr}")
+    return done.stdout

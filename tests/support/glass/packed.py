@@ -16,6 +16,7 @@ import snappy
 import zstandard
 
 MOST = 64 << 20  # bytes that one packing may unfold to
+_BROTLI_PIECE = 1024  # bytes
 _MOST_PLACES = 2000  # of one kind in one stretch
 
 _GZIP = re.compile(rb"\x1f\x8b\x08[\x00-\x1f]")
@@ -26,9 +27,14 @@ _LZ4_FRAME = re.compile(rb"\x04\x22\x4d\x18")
 # How Chromium begins a value of its databases that it has packed.
 _V8_SNAPPY = re.compile(rb"\xff\x11\x02")
 _PNG = re.compile(rb"\x89PNG\r\n\x1a\n")
-_BASE64_RUN = re.compile(rb"[A-Za-z0-9+/_-]{48,}")
+_BASE64_RUN = re.compile(rb"[A-Za-z0-9+/_-]+")
 _PACKED_MAGIC = (b"\x89PNG", b"\x1f\x8b\x08", b"\x28\xb5\x2f\xfd", b"\xff\x06\x00\x00sNaPpY",
                  b"mozLz40\0", b"PK\x03\x04", b"SQLite format 3\0")
+# The letters that each of these begins with, in the base64 of texts and in that of addresses.
+_BASE64_HEADS = sorted({
+    head.translate(letters) for magic in _PACKED_MAGIC
+    for head in [base64.b64encode(magic)[:len(magic) * 4 // 3]]
+    for letters in (bytes(range(256)), bytes.maketrans(b"+/", b"-_"))})
 
 
 def gzips(data):
@@ -43,16 +49,35 @@ def deflates(data):
 
 def brotlis(data):
     for place in _bodies(data):
-        unpacker, parts = brotli.Decompressor(), []
+        yield "brotli", _unbrotlied(data[place:place + MOST])
+
+
+def _unbrotlied(data):
+    """Up to a fault or the end, and nothing tells where that is: the library refuses whole the piece
+    in which it lies. So that one is handed to it byte by byte."""
+    unpacker, parts = brotli.Decompressor(), []
+    for start in range(0, len(data), _BROTLI_PIECE):
         try:
-            # Piece by piece, so that what comes before a fault or the end is not lost.
-            for start in range(place, min(len(data), MOST), 1024):
-                parts.append(unpacker.process(data[start:start + 1024]))
-                if unpacker.is_finished():
-                    break
+            parts.append(unpacker.process(data[start:start + _BROTLI_PIECE]))
         except brotli.error:
-            pass
-        yield "brotli", b"".join(parts)
+            return _unbrotlied_by_bytes(data, start)
+        if unpacker.is_finished():
+            break
+    return b"".join(parts)
+
+
+def _unbrotlied_by_bytes(data, start):
+    unpacker, parts = brotli.Decompressor(), []
+    for at in range(0, start, _BROTLI_PIECE):
+        parts.append(unpacker.process(data[at:at + _BROTLI_PIECE]))
+    for at in range(start, min(start + _BROTLI_PIECE, len(data))):
+        try:
+            parts.append(unpacker.process(data[at:at + 1]))
+        except brotli.error:
+            break
+        if unpacker.is_finished():
+            break
+    return b"".join(parts)
 
 
 def zstds(data):
@@ -146,10 +171,14 @@ def pictures(data):
 
 def base64_runs(data):
     """Only where something packed begins; plain texts are found without it."""
-    for match in _BASE64_RUN.finditer(data):
-        run = match.group().translate(bytes.maketrans(b"-_", b"+/"))
-        if base64.b64decode(run[:24]).startswith(_PACKED_MAGIC):
-            yield "base64", base64.b64decode(run + b"=" * (-len(run) % 4))
+    for head in _BASE64_HEADS:
+        at = data.find(head)
+        while at >= 0:
+            run = _BASE64_RUN.match(data, at).group().translate(bytes.maketrans(b"-_", b"+/"))
+            if len(run) >= 48:
+                run = run[:len(run) - (len(run) % 4 == 1)]
+                yield "base64", base64.b64decode(run + b"=" * (-len(run) % 4))
+            at = data.find(head, at + max(len(run), 1))
 
 
 EVERYWHERE = (gzips, deflates, brotlis, zstds, snappy_streams, lz4s, zips, pictures, base64_runs)

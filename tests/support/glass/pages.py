@@ -87,8 +87,9 @@ class Journey:
         host = f"{self.token('tabhost', HISTORY)}.test"
         for name in ("closedtab", "opentab"):
             script = f"sessionStorage.kept = '{self.token(name + 'storage', COOKIES)}';"
+            self.texts["lasttitle"] = self.token(name + "title", HISTORY)
             self._page(name, host, f"/{self.token(name, HISTORY)}",
-                       self.token(name + "title", HISTORY), script=script,
+                       self.texts["lasttitle"], script=script,
                        icon=self._icon(host, name + "icon", HISTORY))
         private = f"{self.token('privatehost', NEVER)}.test"
         self._page("private", private, f"/{self.token('private', NEVER)}",
@@ -109,8 +110,10 @@ class Journey:
         """Bookmarked, and visited as well."""
         host = f"{self.token('bookmarkhost', KEEP)}.test"
         self.texts["bookmark"] = self.token("bookmarktitle", KEEP)
-        self._page("kept", host, f"/{self.token('bookmark', KEEP)}", self.texts["bookmark"], self._link("download"),
-                   icon=self._icon(host, "bookmarkicon", KEEP))
+        icon = self._icon(host, "bookmarkicon", KEEP)
+        self._page("kept", host, f"/{self.token('bookmark', KEEP)}", self.texts["bookmark"],
+                   self._link("download"), icon=icon)
+        self.addresses["keptsicon"] = f"http://{host}:{self._server.port}{icon}"
 
     def _make_form(self):
         """A field that a hand types into, posted, so that no address holds it."""

@@ -1,5 +1,6 @@
 """A web server on this machine, for every host name: each test registers what it serves."""
 
+import collections
 import http.server
 import threading
 import urllib.parse
@@ -21,10 +22,12 @@ class Server:
     def __init__(self):
         self._answers = {}
         self._told = set()
+        self._turns = collections.Counter()
         self._changed = threading.Condition()
         self.visited = set()
         self._http = http.server.ThreadingHTTPServer(("127.0.0.1", 0), self._handler())
         self._http.daemon_threads = True
+        self._http.handle_error = lambda *connection: None  # a killed browser hangs up
         self.port = self._http.server_port
 
     def __enter__(self):
@@ -48,9 +51,23 @@ class Server:
                 raise TookTooLong(f"{seconds} s were not enough: a page tells \"{event}\"; "
                                   f"told: {sorted(self._told)}")
 
-    def has_been_told(self, event):
+    def wait_until(self, done, seconds):
+        """Asks after each visit, and returns what it said last."""
         with self._changed:
-            return event in self._told
+            return self._changed.wait_for(done, seconds)
+
+    def forget(self, event):
+        """So that it can be waited for once more."""
+        with self._changed:
+            self._told.discard(event)
+
+    def turns(self, name):
+        """How often "/turn/NAME" was asked for, of any host."""
+        return self._turns[name]
+
+    def wait_for_visit(self, address, seconds=PATIENCE):
+        if not self.wait_until(lambda: address in self.visited, seconds):
+            raise TookTooLong(f"{seconds} s were not enough: {address} is asked for")
 
     def _answer(self, host, target, headers):
         path = urllib.parse.urlsplit(target).path
@@ -59,7 +76,12 @@ class Server:
                 self._told.add(path.removeprefix("/told/"))
                 self._changed.notify_all()
                 return Answer("", headers={"Cache-Control": "no-store"})
+            if path.startswith("/turn/"):
+                self._turns[path.removeprefix("/turn/")] += 1
+                self._changed.notify_all()
+                return Answer("", headers={"Cache-Control": "no-store"})
             self.visited.add(f"http://{host}{target}")
+            self._changed.notify_all()
         answer = self._answers.get((host, path)) or self._answers.get((host, "*"))
         return answer(headers) if callable(answer) else answer or Answer("none", status=404)
 

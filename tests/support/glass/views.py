@@ -34,20 +34,37 @@ ENCODINGS = {
 
 
 class View:
-    """One way of writing, all tokens at once. `meanings` are tokens by what they look like."""
+    """One way of writing, all tokens at once. `meanings` are tokens by what they look like.
+    `in_files`: only in the bytes of files, not in what these unfold to."""
 
-    def __init__(self, name, meanings):
+    def __init__(self, name, meanings, in_files=False):
         self.name = name
+        self.in_files = in_files
         self._meanings = meanings
-        # Searching is quick for what all have in common, slow for a choice.
-        common = os.path.commonprefix(list(meanings))
-        rest = b"|".join(re.escape(seen[len(common):]) for seen in sorted(meanings, reverse=True))
-        self._pattern = re.compile(re.escape(common) + b"(?:" + rest + b")", re.DOTALL)
+        # Searching is quick for what all have in common at an end, slow for a choice.
+        self._head = os.path.commonprefix(list(meanings))
+        self._tail = os.path.commonprefix([seen[::-1] for seen in meanings])[::-1]
+        self._lengths = sorted({len(seen) for seen in meanings}, reverse=True)
+        self._choice = re.compile(b"|".join(map(re.escape, meanings)), re.DOTALL)
 
     def find(self, data):
         """Yields the places in the bytes, and the tokens there."""
-        for match in self._pattern.finditer(data):
-            yield match.start(), self._meanings[match.group()]
+        if common := self._head or self._tail:
+            at = data.find(common)
+            while at >= 0:
+                yield from self._there(data, at)
+                at = data.find(common, at + 1)
+        else:
+            for match in self._choice.finditer(data):
+                yield match.start(), self._meanings[match.group()]
+
+    def _there(self, data, at):
+        """What begins at a place, or ends there where ends are what all have in common."""
+        for length in self._lengths:
+            start = at if self._head else at + len(self._tail) - length
+            if start >= 0 and (token := self._meanings.get(data[start:start + length])):
+                yield start, token
+                return
 
 
 def views_of(tokens, names=None):

@@ -1,0 +1,133 @@
+"""Homes whose user has travelled with both browsers, in two profiles of each. A journey takes its time,
+so there is one of each kind, and every test is given a copy."""
+
+import concurrent.futures
+import functools
+import json
+import subprocess
+
+from desktop.program import Program
+from glass.browsers import Chromium, MovedFirefox, SecondChromium, UsualFirefox
+from glass.finder import Glass
+from glass.server import Server
+from glass.tokens import CACHE, COOKIES, HISTORY, TYPED, Manifest
+
+OPTIONS = {HISTORY: "Clear Browser History Logs", CACHE: "Clear Temporary Internet Files",
+           COOKIES: "Clear Browser Cookies", TYPED: "Clear Site Addresses"}
+# The profiles of one browser are used one after the other, both browsers at the same time.
+CHAINS = ((UsualFirefox, MovedFirefox), (Chromium, SecondChromium))
+# The file that the journey downloads is its user's, and the desktop's list of it another option's.
+NOT_BROWSERS = ("Downloads/", ".local/share/recently-used.xbel")
+
+
+class Travels:
+    """On one desktop. All pages come from one server, which lasts as long as the process."""
+
+    def __init__(self, desktop, path):
+        self._desktop = desktop
+        self._path = path
+        self._homes = 0
+        self.server = Server().__enter__()
+
+    def closed(self):
+        """All browsers were closed by their user."""
+        return self._copy(self._travelled("close"))
+
+    def killed(self):
+        return self._copy(self._travelled("kill"))
+
+    def cleaned(self):
+        """The closed ones, with all four options."""
+        return self._copy(self._cleaned())
+
+    @functools.cache
+    def _cleaned(self):
+        web = self.closed()
+        web.clean(*OPTIONS.values())
+        return web
+
+    @functools.cache
+    def _travelled(self, end):
+        web = Web(self._desktop, self._path, self._new_home(), Manifest())
+        # A browser ends with the thread that has started it, so these stay until all have ended.
+        with concurrent.futures.ThreadPoolExecutor(len(CHAINS)) as pool:
+            for travelled in [pool.submit(self._travel, web, kinds, end) for kinds in CHAINS]:
+                web.browsers += travelled.result()
+        web.manifest.addresses = sorted(self.server.visited)
+        return web
+
+    def _travel(self, web, kinds, end):
+        browsers = []
+        for kind in kinds:
+            browser = kind(self._desktop, web.home, self.server, web.manifest)
+            try:
+                browser.travel()
+                getattr(browser, end)()
+            finally:
+                browser.kill()  # whose window would be in the way of others
+            kind.list_profiles(web.home)
+            browsers.append(browser)
+        return browsers
+
+    def _copy(self, web):
+        home = self._new_home()
+        subprocess.run(["cp", "-a", f"{web.home.home}/.", home.home], check=True)
+        copy = Web(self._desktop, self._path, home, web.manifest)
+        for browser in web.browsers:
+            copy.browsers.append(browser.at(home))
+            browser.list_profiles(home)
+        return copy
+
+    def _new_home(self):
+        self._homes += 1
+        # Chromium puts a socket into the home's temporary folder, whose path may not be long.
+        return self._desktop.new_home(f"w{self._homes}")
+
+
+class Web:
+    """A home, the tokens of its journeys, and its browsers."""
+
+    def __init__(self, desktop, path, home, manifest):
+        self.home = home
+        self.manifest = manifest
+        self.browsers = []
+        self._desktop = desktop
+        self._path = path
+
+    def browser(self, kind):
+        return next(browser for browser in self.browsers if type(browser) is kind)
+
+    def found(self):
+        found = Glass(self.manifest).search(self.home.home)
+        assert not found.not_read, found.not_read
+        return [hit for hit in found.hits if not hit.file.startswith(NOT_BROWSERS)]
+
+    def hits(self, *erased_by, browser=None):
+        """Of the tokens that these take away, as "kind: place" lines."""
+        wanted = {token.text for token in self._tokens(erased_by, browser)}
+        return sorted({f"{hit.kind}: {hit.file} {hit.within} {hit.view}" for hit in self.found()
+                       if hit.token in wanted})
+
+    def kinds(self, *erased_by, browser=None):
+        return {line.split(":")[0] for line in self.hits(*erased_by, browser=browser)}
+
+    def clean(self, *options):
+        """Returns the log."""
+        with Program(self._path, self._desktop, self.home) as program:
+            window = program.window()
+            window.tick_only(*options)
+            return window.clean(120)
+
+    def profile_names(self):
+        """As each browser's own list has them."""
+        state = json.loads((self.home.config / "chromium" / "Local State").read_text("utf-8"))
+        names = {f"chromium {folder}": facts["name"]
+                 for folder, facts in state["profile"]["info_cache"].items()}
+        return {Chromium: f"Chromium ({names['chromium Default']})",
+                SecondChromium: f"Chromium ({names['chromium Profile 1']})",
+                UsualFirefox: "Firefox (usual)", MovedFirefox: "Firefox (moved)"}
+
+    def _tokens(self, erased_by, browser):
+        return [token for token in self.manifest.tokens if token.erased_by in erased_by
+                and (browser is None
+                     or (token.browser, token.profile) == (browser.name, browser.profile))]
