@@ -14,10 +14,12 @@ class LeftTraces;
 class Notifications;
 class ProcessEnd;
 class ProfileFile;
+class Programs;
 class RecycleBin;
 class Registry;
 class SettingsBackend;
 class SingleInstance;
+class Sound;
 class SpecialFolders;
 class WindowCommands;
 
@@ -39,6 +41,8 @@ struct Desktop {
   ProcessEnd& process;
   Notifications& notifications;
   LeftTraces& leftTraces;
+  Sound& sound;
+  Programs& programs;
 };
 
 }  // namespace zelvane::platform

@@ -27,10 +27,15 @@ display       dbus-x11            command:dbus-launch                tells progr
 display       at-spi2-core        file:/usr/share/dbus-1/services/org.a11y.Bus.service  presses buttons
 display       gir1.2-atspi-2.0    lib:girepository-1.0/Atspi-2.0.typelib                the same, for scripts
 display       python3-gi          lib:python3*/*-packages/gi         the same, for Python
-display,check,bench,package python3  file:/usr/bin/python3           drives the window; counts the tests; packs
+build,display,check,bench,package python3  file:/usr/bin/python3     makes the sound; drives the window; counts the tests; packs
 display       imagemagick         command:import                     takes screenshots
 display       procps              command:ps                         sees which programs run
 display       file                command:file                       says what a screenshot is
+display       libcanberra0        lib:libcanberra.so.0               plays sounds
+display       libcanberra-pulse   lib:libcanberra-*/libcanberra-pulse.so  hands them to a sound server
+display       pulseaudio          command:pulseaudio                 a sound server that nobody hears
+display       pulseaudio-utils    command:parec                      hears it all the same
+display       sound-theme-freedesktop  file:/usr/share/sounds/freedesktop/stereo/bell.oga  the usual sounds
 bench,tidy    libxcb-damage0-dev  header:xcb/damage.h                sees when a window is painted
 bench         e2fsprogs           command:mkfs.ext4                  makes a file system to erase in
 bench         bleachbit           command:bleachbit                  a cleaner, as a peer

@@ -30,10 +30,12 @@ copySources() {
   tar --exclude=./build --exclude=./.git -cf - . | tar -xf - -C "$1" --no-same-owner
 }
 
-# offerBuild PRESET: puts the programs of a build where the tester finds them, in $project/build/PRESET.
+# offerBuild PRESET: puts the programs of a build, and what lies beside the program for Windows, where the
+# tester finds them, in $project/build/PRESET.
 offerBuild() {
   if ((EUID == 0)); then
-    find "build/$1" "build/$1/tests" -maxdepth 1 -type f -executable \
+    find "build/$1" "build/$1/tests" -maxdepth 1 -type f \
+      \( -executable -o -name wavpath.txt -o -name ding.wav \) \
       -exec cp --parents --target-directory "$project" {} + 2>/dev/null || true
     chmod -R go=rX "$project/build"
   fi

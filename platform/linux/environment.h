@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace zelvane::platform {
 
@@ -15,6 +16,14 @@ struct Environment {
   std::string cacheHome;   // $XDG_CACHE_HOME, or ~/.cache
   std::string runtimeDir;  // $XDG_RUNTIME_DIR, or where systemd puts it; empty if there is none
   std::string tmpDir;      // $TMPDIR, or /tmp
+
+  // Where the system's own are, the most important one first; relative paths are left out.
+  std::vector<std::string> configDirs = {};   // $XDG_CONFIG_DIRS, or /etc/xdg
+  std::vector<std::string> dataDirs = {};     // $XDG_DATA_DIRS, or /usr/local/share and /usr/share
+  std::vector<std::string> programDirs = {};  // $PATH, or the system's usual one
+
+  // The names of the running desktop in lower case, $XDG_CURRENT_DESKTOP: "ubuntu", "gnome".
+  std::vector<std::string> desktops = {};
 
   // The real one. Tests build their own, below a throw-away folder.
   static Environment ofProcess();

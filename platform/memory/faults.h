@@ -29,10 +29,11 @@ namespace zelvane::platform {
 //   ReadStream       read deviceIo
 //   RecycleBin       empty permissionDenied
 //   Clipboard        clear permissionDenied
+//   Programs         programFor nothing; start false
 //
 // The other ports, and `Registry::close`, have no failure to promise: Clock, Identity, Dialogs,
-// WindowCommands, EventPump, ProcessEnd, and SingleInstance, whose desktop says true where it
-// cannot tell. They are not wrapped.
+// WindowCommands, EventPump, Sound, ProcessEnd, and SingleInstance, whose desktop says true where
+// it cannot tell. They are not wrapped.
 class Faults {
  public:
   struct Call {

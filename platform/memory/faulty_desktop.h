@@ -7,6 +7,7 @@
 #include "platform/memory/faulty_files.h"
 #include "platform/memory/faulty_folder_tree.h"
 #include "platform/memory/faulty_profile_file.h"
+#include "platform/memory/faulty_programs.h"
 #include "platform/memory/faulty_recycle_bin.h"
 #include "platform/memory/faulty_registry.h"
 #include "platform/memory/faulty_settings.h"
@@ -36,6 +37,7 @@ struct FaultyDesktop {
   FaultyFiles files{memory.files, faults};
   FaultyRecycleBin recycleBin{memory.recycleBin, faults};
   FaultyClipboard clipboard{memory.clipboard, faults};
+  FaultyPrograms programs{memory.programs, faults};
 
   // They live as long as this desktop.
   Desktop ports() {
@@ -55,7 +57,9 @@ struct FaultyDesktop {
             .instance = memory.instance,
             .process = memory.process,
             .notifications = memory.notifications,
-            .leftTraces = memory.leftTraces};
+            .leftTraces = memory.leftTraces,
+            .sound = memory.sound,
+            .programs = programs};
   }
 };
 

@@ -14,10 +14,12 @@
 #include "platform/memory/memory_notifications.h"
 #include "platform/memory/memory_process_end.h"
 #include "platform/memory/memory_profile_file.h"
+#include "platform/memory/memory_programs.h"
 #include "platform/memory/memory_recycle_bin.h"
 #include "platform/memory/memory_registry.h"
 #include "platform/memory/memory_settings.h"
 #include "platform/memory/memory_single_instance.h"
+#include "platform/memory/memory_sound.h"
 #include "platform/memory/memory_special_folders.h"
 #include "platform/memory/memory_window.h"
 
@@ -36,6 +38,9 @@ namespace zelvane::platform {
 //     EXPECT_EQ(desktop.settings.find("Schedule", "RunOn"), std::nullopt);
 //     EXPECT_FALSE(desktop.fileSystem.has("/home/user/Recent/letter.txt"));
 struct MemoryDesktop {
+  // The program is installed: no sound was chosen yet.
+  MemoryDesktop() { fileSystem.addFile(identity.dataFolder() + "/wavpath.txt", "\r\n"); }
+
   MemoryIdentity identity;
   MemoryClock clock;
   MemorySettings settings;
@@ -54,6 +59,8 @@ struct MemoryDesktop {
   MemoryProcessEnd process;
   MemoryNotifications notifications;
   LeftTraces leftTraces;
+  MemorySound sound;
+  MemoryPrograms programs;
 
   // They live as long as this desktop.
   Desktop ports() {
@@ -73,7 +80,9 @@ struct MemoryDesktop {
             .instance = instance,
             .process = process,
             .notifications = notifications,
-            .leftTraces = leftTraces};
+            .leftTraces = leftTraces,
+            .sound = sound,
+            .programs = programs};
   }
 };
 

@@ -84,5 +84,38 @@ TEST(Environment, AHomeThatIsTheRootHasOneSeparator) {
   EXPECT_EQ(inProcessWith({{"HOME", "/"}}, &Environment::configHome), "/.config");
 }
 
+// The entries, one a line.
+std::string listInProcessWith(const Variables& variables,
+                              std::vector<std::string> Environment::*list) {
+  ChildProcess child([&](const Say& say) {
+    clearenv();
+    for (const auto& [name, value] : variables) setenv(name, value, 1);
+    for (const std::string& entry : Environment::ofProcess().*list) say(entry);
+  });
+  return child.hearAll();
+}
+
+TEST(Environment, TheSystemsFoldersAreWhereSystemsPutThemUnlessTheyAreNamed) {
+  const Variables named = {
+      {"XDG_CONFIG_DIRS", "/a:/b/"}, {"XDG_DATA_DIRS", "/c"}, {"PATH", "/d:/e"}};
+
+  EXPECT_EQ(listInProcessWith({}, &Environment::configDirs), "/etc/xdg\n");
+  EXPECT_EQ(listInProcessWith({}, &Environment::dataDirs), "/usr/local/share\n/usr/share\n");
+  EXPECT_EQ(listInProcessWith({}, &Environment::programDirs), "/usr/local/bin\n/usr/bin\n/bin\n");
+  EXPECT_EQ(listInProcessWith(named, &Environment::configDirs), "/a\n/b\n");
+  EXPECT_EQ(listInProcessWith(named, &Environment::dataDirs), "/c\n");
+  EXPECT_EQ(listInProcessWith(named, &Environment::programDirs), "/d\n/e\n");
+}
+
+TEST(Environment, NoFolderIsNamedByARelativeOrEmptyPath) {
+  EXPECT_EQ(listInProcessWith({{"PATH", ":bin:.:/d:"}}, &Environment::programDirs), "/d\n");
+}
+
+TEST(Environment, TheDesktopHasItsNamesInLowerCase) {
+  EXPECT_EQ(listInProcessWith({{"XDG_CURRENT_DESKTOP", "ubuntu:GNOME"}}, &Environment::desktops),
+            "ubuntu\ngnome\n");
+  EXPECT_EQ(listInProcessWith({}, &Environment::desktops), "");
+}
+
 }  // namespace
 }  // namespace zelvane::test

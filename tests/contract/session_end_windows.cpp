@@ -117,7 +117,9 @@ class SessionEndTest : public testing::Test {
             .instance = desktop.instance,
             .process = process,
             .notifications = desktop.notifications,
-            .leftTraces = desktop.leftTraces};
+            .leftTraces = desktop.leftTraces,
+            .sound = desktop.sound,
+            .programs = desktop.programs};
   }
 };
 

@@ -55,6 +55,7 @@ OF_WINDOWS = {
     "SHELL32.dll",   # special folders, the recycle bin
     "USER32.dll",    # windows
     "VERSION.dll",   # the program's own version record
+    "WINMM.dll",     # sounds
 }
 ICON_SIZES = {16, 24, 32, 48, 64, 128, 256}
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "platform/left_traces.h"
+#include "platform/linux/data_folder.h"
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_folder_tree.h"
 #include "platform/linux/linux_identity.h"
@@ -18,6 +19,8 @@
 #include "platform/memory/memory_event_pump.h"
 #include "platform/memory/memory_notifications.h"
 #include "platform/memory/memory_process_end.h"
+#include "platform/memory/memory_programs.h"
+#include "platform/memory/memory_sound.h"
 #include "platform/memory/memory_window.h"
 #include "platform/shared/live_folders.h"
 #include "tests/support/program_without_window.h"
@@ -32,7 +35,9 @@ class HeadlessDesktop {
   explicit HeadlessDesktop(const ThrowAwayFolder& folder)
       : environment(environmentIn(folder)),
         plainFolders(environment, environment.tmpDir),
-        recycleBin(environment, folder.write("no mounts", "")) {}
+        recycleBin(environment, folder.write("no mounts", "")) {
+    platform::refillDataFolder(identity.dataFolder());
+  }
 
   const platform::Environment environment;
   platform::LinuxIdentity identity{environment};
@@ -53,6 +58,8 @@ class HeadlessDesktop {
   platform::MemoryEventPump pump;
   platform::MemoryProcessEnd process;
   platform::MemoryNotifications notifications;
+  platform::MemorySound sound;
+  platform::MemoryPrograms programs;
   platform::LeftTraces leftTraces;
 
   platform::Desktop ports() {
@@ -72,7 +79,9 @@ class HeadlessDesktop {
             .instance = instance,
             .process = process,
             .notifications = notifications,
-            .leftTraces = leftTraces};
+            .leftTraces = leftTraces,
+            .sound = sound,
+            .programs = programs};
   }
 };
 

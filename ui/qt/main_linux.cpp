@@ -4,6 +4,7 @@
 #include "core/main_window/frm_main.h"
 #include "core/main_window/startup.h"
 #include "platform/desktop.h"
+#include "platform/linux/data_folder.h"
 #include "platform/linux/environment.h"
 #include "platform/linux/linux_browser_desktop.h"
 #include "platform/linux/linux_clock.h"
@@ -12,10 +13,12 @@
 #include "platform/linux/linux_identity.h"
 #include "platform/linux/linux_process_end.h"
 #include "platform/linux/linux_profile_file.h"
+#include "platform/linux/linux_programs.h"
 #include "platform/linux/linux_recycle_bin.h"
 #include "platform/linux/linux_registry.h"
 #include "platform/linux/linux_settings.h"
 #include "platform/linux/linux_single_instance.h"
+#include "platform/linux/linux_sound.h"
 #include "platform/linux/linux_special_folders.h"
 #include "platform/linux/recently_used.h"
 #include "platform/linux/run_history.h"
@@ -69,6 +72,8 @@ struct LinuxDesktop {
   platform::LinuxRecycleBin recycleBin{environment};
   platform::LinuxSingleInstance instance{environment};
   platform::LinuxProcessEnd process;
+  platform::LinuxSound sound;
+  platform::LinuxPrograms programs{environment};
   qt::QtClipboard clipboard;
   qt::QtDialogs dialogs;
   qt::QtWindowCommands window;
@@ -91,7 +96,9 @@ struct LinuxDesktop {
             .instance = instance,
             .process = process,
             .notifications = notifications,
-            .leftTraces = leftTraces};
+            .leftTraces = leftTraces,
+            .sound = sound,
+            .programs = programs};
   }
 };
 
@@ -108,6 +115,7 @@ int run(char** arguments) {
   desktop.window.attach(shell);
   application.whenToldToQuit([&] { window.mainPage.form.unload(controls::UnloadMode::windows); });
 
+  platform::refillDataFolder(desktop.identity.dataFolder());
   main_window::GenFunc::Main(ports, window);
   return qt::Application::exec();
 }

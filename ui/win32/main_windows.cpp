@@ -22,10 +22,12 @@
 #include "platform/windows/windows_identity.h"
 #include "platform/windows/windows_process_end.h"
 #include "platform/windows/windows_profile_file.h"
+#include "platform/windows/windows_programs.h"
 #include "platform/windows/windows_recycle_bin.h"
 #include "platform/windows/windows_registry.h"
 #include "platform/windows/windows_settings.h"
 #include "platform/windows/windows_single_instance.h"
+#include "platform/windows/windows_sound.h"
 #include "platform/windows/windows_special_folders.h"
 #include "ui/win32/main_window.h"
 #include "ui/win32/message_loop.h"
@@ -81,6 +83,8 @@ struct WindowsDesktop {
   platform::WindowsRecycleBin recycleBin{[this] { return owner; }};
   platform::WindowsSingleInstance instance;
   platform::WindowsProcessEnd process;
+  platform::WindowsSound sound;
+  platform::WindowsPrograms programs{[this] { return owner; }};
   win32::Win32Clipboard clipboard;
   win32::Win32Dialogs dialogs;
   win32::Win32WindowCommands window;
@@ -103,7 +107,9 @@ struct WindowsDesktop {
             .instance = instance,
             .process = process,
             .notifications = notifications,
-            .leftTraces = leftTraces};
+            .leftTraces = leftTraces,
+            .sound = sound,
+            .programs = programs};
   }
 };
 

@@ -127,6 +127,7 @@ const auto& heardCalls() {
       heard<"CreateProcessW", decltype(CreateProcessW)>(),
       heard<"SHEmptyRecycleBinW", decltype(SHEmptyRecycleBinW)>(),
       heard<"SHFileOperationW", decltype(SHFileOperationW)>(),
+      heard<"ShellExecuteW", decltype(ShellExecuteW)>(),
       // The C library, where it opens, makes and names: it writes to nothing else.
       heard<"_creat", int(const char*, int)>(),
       heard<"_mkdir", int(const char*)>(),

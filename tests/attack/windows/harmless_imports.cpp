@@ -3,10 +3,10 @@
 namespace zelvane::test {
 namespace {
 
-// Libraries for what is on the screen: windows, drawing, controls. What their dialogs remember
-// between two questions is the system's own affair.
+// Libraries for what is seen and heard: windows, drawing, controls, sounds. What their dialogs
+// remember between two questions is the system's own affair.
 constexpr std::string_view kLibraries = R"(
-    COMCTL32.dll comdlg32.dll GDI32.dll ole32.dll USER32.dll VERSION.dll
+    COMCTL32.dll comdlg32.dll GDI32.dll ole32.dll USER32.dll VERSION.dll WINMM.dll
 )";
 
 // Reading, and syncs. The one that acquires keys is asked for random numbers alone.
@@ -18,9 +18,9 @@ constexpr std::string_view kOfRegistryAndRights = R"(
     RegQueryValueExW SetSecurityDescriptorDacl
 )";
 
-// Asking for folders without making them, and showing a notice.
+// Asking for folders without making them, asking for programs, and showing a notice.
 constexpr std::string_view kOfShell = R"(
-    CommandLineToArgvW SHBrowseForFolderW SHGetKnownFolderPath SHGetPathFromIDListEx
+    CommandLineToArgvW FindExecutableW SHBrowseForFolderW SHGetKnownFolderPath SHGetPathFromIDListEx
     SHGetSpecialFolderPathW SHQueryRecycleBinW Shell_NotifyIconW
 )";
 

@@ -11,6 +11,8 @@
 #include "platform/memory/memory_event_pump.h"
 #include "platform/memory/memory_notifications.h"
 #include "platform/memory/memory_process_end.h"
+#include "platform/memory/memory_programs.h"
+#include "platform/memory/memory_sound.h"
 #include "platform/memory/memory_window.h"
 #include "platform/shared/browsers/browser_traces.h"
 #include "platform/shared/live_folders.h"
@@ -36,13 +38,25 @@ struct World {
   std::string key;
 };
 
+// The program as it runs here, and its data in the world.
+class IdentityIn : public platform::WindowsIdentity {
+ public:
+  explicit IdentityIn(const World& world) : folder_(world.folder + "\\data") {}
+
+  std::string dataFolder() const override { return folder_; }
+
+ private:
+  std::string folder_;
+};
+
 // What lies on the disk is real, put together as the real program does; what the user sees, and
 // time, are in memory. Of the world's folders only those that exist are special ones. The recycle
 // bin is the shell's own.
 class HeadlessDesktop {
  public:
   explicit HeadlessDesktop(const World& world)
-      : settings(settingsIn(world)),
+      : identity(world),
+        settings(settingsIn(world)),
         systemRegistry(world.key),
         winIni(world.folder + "\\win.ini"),
         plainFolders(foldersIn(world.folder)),
@@ -51,7 +65,7 @@ class HeadlessDesktop {
 
   static std::string settingsIn(const World& world) { return world.key + "\\Settings"; }
 
-  platform::WindowsIdentity identity;
+  IdentityIn identity;
   platform::WindowsSettings settings;
   platform::WindowsRegistry systemRegistry;
   platform::WindowsProfileFile winIni;
@@ -82,6 +96,8 @@ class HeadlessDesktop {
   platform::MemoryEventPump pump;
   platform::MemoryProcessEnd process;
   platform::MemoryNotifications notifications;
+  platform::MemorySound sound;
+  platform::MemoryPrograms programs;
 
   platform::Desktop ports() {
     return {.identity = identity,
@@ -100,7 +116,9 @@ class HeadlessDesktop {
             .instance = instance,
             .process = process,
             .notifications = notifications,
-            .leftTraces = leftTraces};
+            .leftTraces = leftTraces,
+            .sound = sound,
+            .programs = programs};
   }
 
  private:

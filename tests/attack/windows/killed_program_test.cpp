@@ -104,6 +104,7 @@ class KilledProgram : public testing::Test {
     World world{folder_ / number, key_ / number};
     makeFolders(world.folder + R"(\home)");
     makeFolders(world.folder + R"(\system)");
+    makeFile(world.folder + R"(\data\wavpath.txt)", "\r\n");
     prepare(world);
     return world;
   }
