@@ -12,6 +12,8 @@ std::string twoDigits(std::int64_t number) {
   return {static_cast<char>('0' + number / 10 % 10), static_cast<char>('0' + number % 10)};
 }
 
+bool beginsCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }
+
 }  // namespace
 
 std::string timeText(std::chrono::seconds timeOfDay) {
@@ -27,8 +29,14 @@ std::string weekdayName(std::chrono::weekday day) {
 }
 
 std::size_t characterCount(std::string_view text) {
-  return static_cast<std::size_t>(std::ranges::count_if(
-      text, [](char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) != 0x80U; }));
+  return static_cast<std::size_t>(std::ranges::count_if(text, beginsCharacter));
+}
+
+std::string firstCharacters(std::string_view text, std::size_t count) {
+  std::size_t begun = 0;
+  const auto end = std::ranges::find_if(
+      text, [&](char byte) { return beginsCharacter(byte) && ++begun > count; });
+  return {text.begin(), end};
 }
 
 }  // namespace zelvane::core

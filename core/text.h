@@ -16,4 +16,7 @@ std::string weekdayName(std::chrono::weekday day);
 // How many characters a UTF-8 text has. A byte that is no UTF-8 counts as one.
 std::size_t characterCount(std::string_view text);
 
+// As many characters from the beginning of a UTF-8 text, or all that it has.
+std::string firstCharacters(std::string_view text, std::size_t count);
+
 }  // namespace zelvane::core

@@ -31,5 +31,13 @@ TEST(Text, CharactersAreCountedAndNotBytes) {
   EXPECT_EQ(characterCount("/home/jörg/Übung"), 16U);
 }
 
+TEST(Text, TheFirstCharactersAreWholeOnes) {
+  EXPECT_EQ(firstCharacters("Übung", 0), "");
+  EXPECT_EQ(firstCharacters("Übung", 1), "Ü");
+  EXPECT_EQ(firstCharacters("aÜb", 2), "aÜ");
+  EXPECT_EQ(firstCharacters("Übung", 5), "Übung");
+  EXPECT_EQ(firstCharacters("Übung", 6), "Übung");
+}
+
 }  // namespace
 }  // namespace zelvane::core
