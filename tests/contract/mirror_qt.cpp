@@ -173,6 +173,16 @@ TEST_F(QtMirrorTest, ALabelTakesNoRoomWhileItIsEmpty) {
   EXPECT_EQ(widget.text(), "192.0.2.7");
 }
 
+TEST_F(QtMirrorTest, ALineShowsLineBreaksAsBlanksAndAnAmpersandAsItIs) {
+  controls::Label control(page, "Label14", "");
+  const qt::LineWidget widget(control, window);
+
+  control.setCaption("\r\n/rock & roll/a.wav");
+
+  EXPECT_EQ(widget.text(), "/rock & roll/a.wav");
+  EXPECT_EQ(widget.accessibleName(), "/rock & roll/a.wav");
+}
+
 TEST_F(QtMirrorTest, ALinkIsClickedWithMouseAndKeyboard) {
   controls::Label control(page, "lblWebSite", "https://www.zelvane.example/");
   Count clicks(control.clicked);

@@ -195,13 +195,13 @@ TEST_F(Win32MirrorTest, ALabelTakesNoRoomWhileItIsEmpty) {
   EXPECT_EQ(label.text(), L"192.0.2.7");
 }
 
-TEST_F(Win32MirrorTest, ALineShowsLineBreaksAsBlanks) {
+TEST_F(Win32MirrorTest, ALineShowsLineBreaksAsBlanksAndAnAmpersandAsItIs) {
   controls::Label control(page, "lblStatus", "");
   const auto& line = make<win32::LineWindow>(control);
 
   control.setCaption("\r\nDone  & gone");
 
-  EXPECT_EQ(line.text(), L"Done gone");
+  EXPECT_EQ(line.text(), L"Done & gone");
 }
 
 TEST_F(Win32MirrorTest, ALinkIsClickedWithMouseAndKeyboard) {

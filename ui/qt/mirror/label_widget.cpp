@@ -29,9 +29,11 @@ LabelWidget::LabelWidget(controls::Label& control, QWidget& parent) : QLabel(&pa
 LineWidget::LineWidget(controls::Label& control, QWidget& parent) : QLabel(&parent) {
   setTextFormat(Qt::PlainText);
   setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed);
-  mirrorCaptioned(control, *this);
-  follow(control, *this,
-         [this, &control] { setText(plainCaption(control.caption()).simplified()); });
+  mirrorControl(control, *this);
+  follow(control, *this, [this, &control] {
+    setText(QString::fromStdString(control.caption()).simplified());
+    setAccessibleName(text());
+  });
 }
 
 QSize LineWidget::sizeHint() const {

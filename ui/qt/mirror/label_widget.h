@@ -15,7 +15,8 @@ class LabelWidget : public QLabel {
 };
 
 // One line that keeps its height when it is empty and never asks for more width than it is given:
-// where the text does not fit, its middle is left out. Line breaks in it are shown as blanks.
+// where the text does not fit, its middle is left out. Line breaks in it are shown as blanks, and
+// "&", which may be part of a path, as it is.
 class LineWidget : public QLabel {
  public:
   LineWidget(controls::Label& control, QWidget& parent);

@@ -79,7 +79,7 @@ LineWindow::LineWindow(controls::Label& control, Pane& parent)
              parent) {
   mirrorControl(control, *this);
   follow(control, *this,
-         [this, &control] { setCaption(inOneLine(plainCaption(control.caption()))); });
+         [this, &control] { setCaption(inOneLine(platform::wideText(control.caption()))); });
 }
 
 Size LineWindow::natural() const { return {look().letters(8), look().lineHeight()}; }

@@ -16,7 +16,7 @@ class LabelWindow : public Window {
 
 // One line that keeps its height when it is empty and never asks for more width than it is given:
 // where the text does not fit, a part is left out, of a path its middle. Line breaks in it are
-// shown as blanks.
+// shown as blanks, and "&", which may be part of a path, as it is.
 class LineWindow : public Window {
  public:
   LineWindow(controls::Label& control, Pane& parent);
