@@ -1,5 +1,7 @@
 #include "core/main_window/frm_main.h"
 
+#include "about/url_launcher.h"
+
 namespace zelvane::main_window {
 
 frmMain::frmMain(const platform::Desktop& desktop)
@@ -19,7 +21,9 @@ frmMain::frmMain(const platform::Desktop& desktop)
            desktop, handler_),
       scheduleSettings_(schedulePage, settings_, desktop, handler_),
       scheduleTimer_(schedulePage, settings_, desktop.clock, handler_,
-                     [this] { run_.cmdBasicClean_Click(); }) {
+                     [this] { run_.cmdBasicClean_Click(); }),
+      popupSwitch_(popupPage, trayMenu.mnuPoupKiller, events_, settings_),
+      alertSound_(popupPage, desktop.files, desktop.dialogs, desktop.identity, handler_) {
   wire();
 }
 
@@ -29,10 +33,12 @@ void frmMain::wire() {
       [this](bool& cancel, controls::UnloadMode mode) { Form_QueryUnload(cancel, mode); });
   mainPage.form.unloaded.connect([this] { Form_Unload(); });
   mainPage.cmdClose.clicked.connect([this] { cmdClose_Click(); });
+  mainPage.lblWebSite.clicked.connect([this] { lblWebSite_Click(); });
+  popupPage.Label9.clicked.connect([this] { Label9_Click(); });
 
   // A page whose subsystem is not built yet cannot be used; its controls' own states stay as they
   // are designed.
-  for (controls::Frame* frame : {&popupPage.Frame1, &fileSecurityPage.fmDravik}) {
+  for (controls::Frame* frame : {&fileSecurityPage.fmDravik}) {
     frame->setDescription("This page comes with a later version.");
     frame->setEnabled(false);
   }
@@ -55,5 +61,13 @@ controls::Control* frmMain::find(std::string_view name) const {
 void frmMain::Form_Activate() { mainPage.cmdClose.setVisible(true); }
 
 void frmMain::cmdClose_Click() { mainPage.form.unload(controls::UnloadMode::code); }
+
+void frmMain::Label9_Click() {
+  about::GenFunc::OpenURL(desktop_, popupPage.Label9.caption(), "htm");
+}
+
+void frmMain::lblWebSite_Click() {
+  about::GenFunc::OpenURL(desktop_, mainPage.lblWebSite.caption(), "htm");
+}
 
 }  // namespace zelvane::main_window

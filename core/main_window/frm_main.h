@@ -15,7 +15,10 @@
 #include "core/settings_store.h"
 #include "filesecurity/file_security_page.h"
 #include "platform/desktop.h"
+#include "popupkiller/alert_sound.h"
+#include "popupkiller/events.h"
 #include "popupkiller/popup_page.h"
+#include "popupkiller/popup_switch.h"
 #include "scheduler/schedule_page.h"
 #include "scheduler/schedule_settings.h"
 #include "scheduler/schedule_timer.h"
@@ -55,6 +58,8 @@ class frmMain {
   void Form_QueryUnload(bool& cancel, controls::UnloadMode mode);
   void Form_Unload();
   void cmdClose_Click();
+  void Label9_Click();
+  void lblWebSite_Click();
 
  private:
   // Where two subsystems meet, one line each.
@@ -68,6 +73,7 @@ class frmMain {
   void showMachineNames();
   void loadPopupSwitch();
   void createBrowserTracker();
+  void showAlertSoundPath();
   void registerContainerType();
   void loadCleaningOptions();
   void loadAutoCompleteBox();
@@ -98,6 +104,9 @@ class frmMain {
   cleaner::CleaningRun run_;
   scheduler::ScheduleSettings scheduleSettings_;
   scheduler::ScheduleTimer scheduleTimer_;
+  popupkiller::Events events_;
+  popupkiller::PopupSwitch popupSwitch_;
+  popupkiller::AlertSound alertSound_;
 };
 
 }  // namespace zelvane::main_window

@@ -26,6 +26,7 @@ void frmMain::Form_Load() {
     showMachineNames();
     loadPopupSwitch();
     createBrowserTracker();
+    showAlertSoundPath();
     registerContainerType();
     loadCleaningOptions();
     loadAutoCompleteBox();
@@ -41,7 +42,7 @@ void frmMain::Form_Load() {
   });
 }
 
-void frmMain::readAlertSoundPath() {}
+void frmMain::readAlertSoundPath() { alertSound_.readPath(); }
 
 void frmMain::showVersionLabel() {
   const std::string label = core::versionLabel(desktop_.identity.version());
@@ -58,9 +59,11 @@ void frmMain::installKeyboardHook() {}
 
 void frmMain::showMachineNames() {}
 
-void frmMain::loadPopupSwitch() {}
+void frmMain::loadPopupSwitch() { popupSwitch_.load(); }
 
 void frmMain::createBrowserTracker() {}
+
+void frmMain::showAlertSoundPath() { alertSound_.showPath(); }
 
 void frmMain::registerContainerType() {}
 
@@ -98,6 +101,6 @@ void frmMain::markScheduleApplied() { scheduleSettings_.markApplied(); }
 
 void frmMain::showReady() { mainPage.lblStatus.setCaption("Ready"); }
 
-void frmMain::markPopupKillerItem() {}
+void frmMain::markPopupKillerItem() { popupSwitch_.markMenuItem(); }
 
 }  // namespace zelvane::main_window

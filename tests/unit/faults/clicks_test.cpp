@@ -1,5 +1,6 @@
 // Clicks and the tick after a run, each when a store fails.
 #include <memory>
+#include <optional>
 #include <utility>
 
 #include "tests/unit/faults/settled_desktop.h"
@@ -132,6 +133,80 @@ TEST(AWebAddressBoxWhoseKeyRefuses, KeepsShowingTheClickWithoutABox) {
         EXPECT_EQ(differences(expectedAfterWebAddress(before, script.failed()), script.facts()),
                   Lines{});
       });
+}
+
+struct PopupScript : LoadedScript {
+  void run() { window.trayMenu.mnuPoupKiller.click(); }
+};
+
+// The item's click and the box's store each for itself.
+Facts expectedAfterPopupItem(Facts facts, const std::vector<Call>& failed) {
+  facts["chkPopupKillerActivate.value"] = "1";
+  facts["mnuPoupKiller.checked"] = "yes";
+  const std::string fact = storedFact("PopupKiller", "IsActive");
+  std::size_t saves = 0;
+  for (const int occurrence : {1, 2}) {
+    if (!didFail(failed, "SettingsBackend::save", "PopupKiller/IsActive", occurrence)) {
+      facts[numbered("save", saves++)] = fact + " = 1";
+      facts[fact] = "1";
+    }
+  }
+  return facts;
+}
+
+TEST(APopupSwitchThatCannotBeStored, HoldsWithoutABoxAndIsStoredByTheOtherSave) {
+  whicheverCallFails(
+      [] { return std::make_unique<PopupScript>(); },
+      [](const PopupScript& script, const Facts& before) {
+        EXPECT_EQ(differences(expectedAfterPopupItem(before, script.failed()), script.facts()),
+                  Lines{});
+      });
+}
+
+struct SoundScript : LoadedScript {
+  SoundScript() { desktop.memory.dialogs.answer("/music/gong.wav"); }
+  void run() { window.popupPage.Command1.click(); }
+  std::optional<std::string> written() const {
+    return desktop.memory.fileSystem.content(desktop.memory.identity.dataFolder() + "/wavpath.txt");
+  }
+};
+
+TEST(ASoundThatCannotBeStored, IsToldAndTheFileStaysWholeAndTheLabelAsItWas) {
+  whicheverCallFails([] { return std::make_unique<SoundScript>(); },
+                     [](const SoundScript& script, const Facts&) {
+                       const bool good = script.failed().empty();
+                       EXPECT_EQ(script.written(), good ? "/music/gong.wav\r\n" : "\r\n");
+                       EXPECT_EQ(script.window.popupPage.Label14.caption(),
+                                 good ? "/music/gong.wav" : "");
+                       EXPECT_EQ(script.desktop.memory.dialogs.boxes().size(), good ? 0U : 1U);
+                     });
+}
+
+struct WebSiteScript : LoadedScript {
+  WebSiteScript() {
+    desktop.memory.fileSystem.addFolder("/tmp");
+    desktop.memory.specialFolders.setTemporary("/tmp/");
+    desktop.memory.programs.use("htm", "/usr/bin/browser");
+  }
+  void run() { window.mainPage.lblWebSite.click(); }
+};
+
+// What is told of a failed call; nothing where it is passed over.
+std::string toldOfWebSite(const std::vector<Call>& failed) {
+  const std::string name = failed.empty() ? "" : failed.front().name;
+  if (name == "SpecialFolders::temporaryPath") return "Can not create file.";
+  if (name == "Programs::programFor") return "Could not find associated application";
+  return name == "Programs::start" ? "Page not Opened" : "";
+}
+
+TEST(AWebSiteThatCannotBeOpened, IsToldAsItsStepSaysAndLeavesNoFileThatCanBeDeleted) {
+  whicheverCallFails([] { return std::make_unique<WebSiteScript>(); },
+                     [](const WebSiteScript& script, const Facts&) {
+                       const platform::MemoryDesktop& desktop = script.desktop.memory;
+                       EXPECT_EQ(desktop.dialogs.lastText(), toldOfWebSite(script.failed()));
+                       EXPECT_EQ(desktop.fileSystem.has("/tmp/temphtm.htm"),
+                                 didFail(script.failed(), "Files::remove", "/tmp/temphtm.htm"));
+                     });
 }
 
 // One second after a run, and another one.

@@ -7,6 +7,7 @@ namespace zelvane::faults {
 
 namespace {
 
+constexpr auto kSoundFile = "/home/user/.local/share/zelvane/wavpath.txt";
 constexpr auto kDefaults = std::to_array({1, 1, 1, 1, 0, 1, 0, 1, 0, 1, 1, 1, 0, 0, 0, 0});
 
 // The number of the day that the clock shows; a stored time of day is of that day.
@@ -20,7 +21,14 @@ class Model {
     complain("SettingsBackend::check", "The settings cannot be read.");
     complain("Registry::check", "The registry cannot be read.");
     writeMissingProfileEntry();
+    facts_.erase("frmMain.hidden");
+    if (endsTheLoad(failed_)) {
+      tell("none", did("Files::open", kSoundFile) ? "Error: 53 - File not found"
+                                                  : "Error: 57 - Device I/O error");
+      return std::move(facts_);
+    }
     showIdentity();
+    loadPopupSwitch();
     for (std::size_t index = 0; index < kDefaults.size(); ++index) {
       const std::string option = std::to_string(index);
       facts_["chkSettings_" + option + ".value"] = stored(
@@ -36,7 +44,6 @@ class Model {
     facts_["cmdApply.disabled"] = "yes";
     facts_["cmdCancel.disabled"] = "yes";
     facts_["lblStatus.caption"] = "Ready";
-    facts_.erase("frmMain.hidden");
     return std::move(facts_);
   }
 
@@ -45,9 +52,13 @@ class Model {
     return didFail(failed_, name, subject, occurrence);
   }
 
+  void tell(const std::string& icon, const std::string& text) {
+    facts_[numbered("box", beginningWith("box ", facts_).size())] = boxFact(icon, text);
+  }
+
   void complain(const std::string& check, const std::string& text) {
     if (did(check, "")) {
-      facts_[numbered("box", beginningWith("box ", facts_).size())] = boxFact("exclamation", text);
+      tell("exclamation", text);
     }
   }
 
@@ -64,6 +75,19 @@ class Model {
     facts_["mnuShow.caption"] = "Zelvane v1.0";
     facts_["lblWebSite.caption"] = "https://www.zelvane.example/";
     facts_["Label9.caption"] = "https://www.zelvane.example/";
+  }
+
+  // On unless "0" is read, and turning it on is a click, which stores what it could not read.
+  void loadPopupSwitch() {
+    const std::string fact = storedFact("PopupKiller", "IsActive");
+    const bool active = stored(fact, "PopupKiller/IsActive", "1") != "0";
+    facts_["chkPopupKillerActivate.value"] = active ? "1" : "0";
+    facts_["mnuPoupKiller.checked"] = active ? "yes" : "no";
+    facts_["Label14.caption"] = "";
+    if (active && !did("SettingsBackend::save", "PopupKiller/IsActive")) {
+      facts_[fact] = "1";
+      facts_[numbered("save", 0)] = fact + " = 1";
+    }
   }
 
   // Ticked unless "yes" is read, and the tick is a click, which forbids what it could not read.
@@ -131,6 +155,11 @@ class Model {
 };
 
 }  // namespace
+
+bool endsTheLoad(const std::vector<Call>& failed) {
+  return didFail(failed, "Files::open", kSoundFile) ||
+         didFail(failed, "ReadStream::read", kSoundFile);
+}
 
 Facts expectedAfterLoad(const Facts& before, const std::vector<Call>& failed) {
   return Model(before, failed).load();

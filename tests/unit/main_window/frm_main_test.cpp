@@ -75,12 +75,11 @@ TEST_F(FrmMainTest, TheInternetPageShowsItsBoxesInTheirOrder) {
 
 TEST_F(FrmMainTest, APageThatIsNotBuiltYetIsDisabledByItsFrameAlone) {
   for (const controls::Frame* frame :
-       {&window.popupPage.Frame1, &window.fileSecurityPage.fmDravik}) {
+       {&window.fileSecurityPage.fmDravik}) {
     EXPECT_FALSE(frame->enabled()) << frame->name();
   }
-  EXPECT_TRUE(window.popupPage.chkPopupKillerActivate.enabled());
-  EXPECT_FALSE(window.popupPage.chkPopupKillerActivate.reachable());
   EXPECT_TRUE(window.fileSecurityPage.cmdEncrypt.enabled());
+  EXPECT_FALSE(window.fileSecurityPage.cmdEncrypt.reachable());
   EXPECT_TRUE(window.schedulePage.cmbDays.reachable());
 }
 
@@ -164,6 +163,30 @@ TEST_F(FrmMainTest, ARunByHandMovesTheHoursOfTheSchedule) {
   window.schedulePage.tmrSchedule.tick();
 
   EXPECT_EQ(window.schedulePage.lblLastRunTime.caption(), "12:00:00");
+}
+
+TEST_F(FrmMainTest, TheTraysItemTurnsThePopupKillersBox) {
+  start();
+
+  window.trayMenu.mnuPoupKiller.click();
+
+  EXPECT_FALSE(window.popupPage.chkPopupKillerActivate.checked());
+  EXPECT_FALSE(window.trayMenu.mnuPoupKiller.checked());
+}
+
+TEST_F(FrmMainTest, BothWebLabelsOpenTheAddressThatTheyShow) {
+  desktop.fileSystem.addFolder("/tmp");
+  desktop.specialFolders.setTemporary("/tmp/");
+  desktop.programs.use("htm", "/usr/bin/browser");
+  start();
+  window.popupPage.Label9.setCaption("https://other.example/");
+
+  window.mainPage.lblWebSite.click();
+  window.popupPage.Label9.click();
+
+  EXPECT_EQ(desktop.programs.started(), (std::vector<platform::MemoryPrograms::Started>{
+                                            {"/usr/bin/browser", "https://www.zelvane.example/"},
+                                            {"/usr/bin/browser", "https://other.example/"}}));
 }
 
 TEST_F(FrmMainTest, TheTrayMenuHasItsFiveItems) {

@@ -7,6 +7,8 @@
 namespace zelvane::main_window {
 namespace {
 
+constexpr auto kSoundFile = "/home/user/.local/share/zelvane/wavpath.txt";
+
 class LoadTest : public WindowTest {
  protected:
   std::vector<int> options() const {
@@ -21,6 +23,9 @@ class LoadTest : public WindowTest {
 TEST_F(LoadTest, AFirstStartOnACleanProfile) {
   start();
 
+  EXPECT_TRUE(window.popupPage.chkPopupKillerActivate.checked());
+  EXPECT_TRUE(window.trayMenu.mnuPoupKiller.checked());
+  EXPECT_EQ(window.popupPage.Label14.caption(), "");
   EXPECT_EQ(window.mainPage.chkStartup.value(), 0);
   EXPECT_EQ(window.cleanerPage.txtHomePageURL.text(), "about:blank");
   EXPECT_EQ(desktop.registry.text(Root::currentUser, kBrowserMain, "Start Page"), "about:blank");
@@ -53,11 +58,12 @@ TEST_F(LoadTest, StoredOptionsWinOverTheDefaultsAndTheLoadStoresNone) {
   start();
 
   EXPECT_EQ(options(), (std::vector<int>{1, 1, 0, 1, 0, 1, 0, 1, 1, 1, 1, 1, 0, 0, 0, 0}));
-  EXPECT_TRUE(desktop.settings.saves().empty());
+  EXPECT_EQ(desktop.settings.savedKeys(), std::vector<std::string>{"IsActive"});
 }
 
 TEST_F(LoadTest, FromTheHomePageOnOptionClicksAreStored) {
   start();
+  desktop.settings.forgetSaves();
 
   window.cleanerPage.chkSettings[12].click();
 
@@ -97,10 +103,65 @@ TEST_F(LoadTest, AStoredStartUpIsShownAndNothingIsWrittenUntilExit) {
   start();
 
   EXPECT_TRUE(window.mainPage.chkStartup.checked());
-  EXPECT_TRUE(desktop.settings.saves().empty());
+  EXPECT_EQ(desktop.settings.savedKeys(), std::vector<std::string>{"IsActive"});
   EXPECT_EQ(desktop.registry.text(Root::currentUser,
                                   R"(Software\Microsoft\Windows\CurrentVersion\Run)", "Zelvane"),
             std::nullopt);
+}
+
+TEST_F(LoadTest, AFirstStartStoresThatThePopupKillerIsOn) {
+  start();
+
+  EXPECT_EQ(desktop.settings.find("PopupKiller", "IsActive"), "1");
+}
+
+TEST_F(LoadTest, APopupKillerStoredAsOffIsShownOffInBothPlaces) {
+  desktop.settings.put("PopupKiller", "IsActive", "0");
+
+  start();
+
+  EXPECT_FALSE(window.popupPage.chkPopupKillerActivate.checked());
+  EXPECT_FALSE(window.trayMenu.mnuPoupKiller.checked());
+  EXPECT_TRUE(desktop.settings.saves().empty());
+}
+
+TEST_F(LoadTest, TheAlertSoundIsShown) {
+  desktop.fileSystem.addFile(kSoundFile, "/music/gong.wav\r\n");
+
+  start();
+
+  EXPECT_EQ(window.popupPage.CommonDialog1.fileName, "/music/gong.wav");
+  EXPECT_EQ(window.popupPage.Label14.caption(), "/music/gong.wav");
+}
+
+TEST_F(LoadTest, AFileForTheSoundsPathThatIsMissingIsToldAndTheLaterStepsAreSkipped) {
+  desktop.fileSystem.vanish(kSoundFile);
+  desktop.settings.put("Options", "StartUp", "1");
+  desktop.settings.put("HomePage", "StartPage", "https://mine.example/");
+
+  start();
+
+  ASSERT_EQ(desktop.dialogs.boxes().size(), 1U);
+  EXPECT_EQ(desktop.dialogs.boxes()[0].text, "Error: 53 - File not found");
+  EXPECT_EQ(desktop.dialogs.boxes()[0].title, "Zelvane");
+  EXPECT_EQ(window.mainPage.form.caption(), "Zelvane");
+  EXPECT_FALSE(window.popupPage.chkPopupKillerActivate.checked());
+  EXPECT_FALSE(window.trayMenu.mnuPoupKiller.checked());
+  EXPECT_EQ(options(), std::vector<int>(16, 0));
+  EXPECT_EQ(window.cleanerPage.txtHomePageURL.text(), "");
+  EXPECT_EQ(window.mainPage.chkStartup.value(), 0);
+  EXPECT_EQ(window.mainPage.lblStatus.caption(), "");
+  EXPECT_TRUE(window.mainPage.form.visible());
+}
+
+TEST_F(LoadTest, WithoutThatFileOptionClicksAreNotStoredButThePopupKillersAre) {
+  desktop.fileSystem.vanish(kSoundFile);
+  start();
+
+  window.cleanerPage.chkSettings[12].click();
+  window.popupPage.chkPopupKillerActivate.click();
+
+  EXPECT_EQ(desktop.settings.savedKeys(), std::vector<std::string>{"IsActive"});
 }
 
 struct SpoiltNumber {

@@ -64,6 +64,8 @@ TEST_F(UnloadTest, TheExitButtonEndsTheProgramAlsoInTheMiddleOfARun) {
 }
 
 TEST_F(UnloadTest, ClickingTheStartupBoxDoesNothingUntilExit) {
+  desktop.settings.forgetSaves();
+
   window.mainPage.chkStartup.click();
 
   EXPECT_TRUE(desktop.settings.saves().empty());
