@@ -1,20 +1,18 @@
-// The desktop's lists of recently used documents.
+// The documents that the desktop and its programs remember.
 #pragma once
 
 #include "platform/linux/environment.h"
+#include "platform/linux/linux_browser_desktop.h"
 #include "platform/shared/live_folder.h"
 
 namespace zelvane::platform {
 
-// Contributes to the recent documents, where they are there:
-//
-//     $XDG_DATA_HOME/recently-used.xbel      the list of most programs
-//     $XDG_DATA_HOME/recently-used.xbel.*    copies that a crash left beside it
-//     ~/.recently-used.xbel, ~/.recently-used    the same list in former days
-//     $XDG_DATA_HOME/RecentDocuments         KDE's: a folder with a small file for each document
+// Contributes to the recent documents what is there of the places in recent_places.h: a store for
+// each list, copy and database, a real folder for each folder.
 //
 // A list is replaced by an empty one rather than deleted, because running programs keep it in
-// memory and write a missing one again. Copies are deleted.
+// memory and write a missing one again. Of a folder the hidden files go, too: they are named for
+// hidden documents.
 class RecentlyUsed : public LiveSource {
  public:
   explicit RecentlyUsed(const Environment& environment);
@@ -22,8 +20,8 @@ class RecentlyUsed : public LiveSource {
   void find(SpecialFolder folder, LiveFinding& finding) const override;
 
  private:
-  std::string home_;
-  std::string dataHome_;
+  Environment environment_;
+  LinuxBrowserDesktop desktop_;
 };
 
 }  // namespace zelvane::platform
