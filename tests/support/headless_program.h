@@ -45,7 +45,7 @@ class HeadlessDesktop {
   platform::LinuxRegistry registry{environment};
   platform::LinuxProfileFile winIni{environment};
   platform::LinuxSpecialFolders plainFolders;
-  platform::LinuxFolderTree plainTree;
+  platform::LinuxFolderTree plainTree{{}, plainFolders};
   platform::RecentlyUsed recentlyUsed{environment};
   platform::LiveFolders folders{plainFolders, plainTree, {recentlyUsed}};
   platform::LinuxFiles files;

@@ -10,8 +10,12 @@
 #include "platform/left_traces.h"
 #include "platform/shared/browsers/browser_settings.h"
 #include "platform/shared/browsers/browser_traces.h"
+<<<<<<< HEAD
 #include "platform/shared/browsers/former_pages.h"
 #include "platform/shared/browsers/live_browser_values.h"
+=======
+#include "platform/shared/jump_list_tree.h"
+>>>>>>> 959ace3 (Keep what is pinned when recent documents of Windows go)
 #include "platform/shared/live_folders.h"
 #include "platform/shared/live_registry.h"
 #include "platform/windows/explorer_history.h"
@@ -69,6 +73,7 @@ struct WindowsDesktop {
   platform::FormerPages formerPages{identity.dataFolder(), browsers, files};
   platform::BrowserSettings browserSettings{browsers, files, formerPages, notifications};
   platform::ExplorerHistory explorer{systemRegistry};
+<<<<<<< HEAD
   platform::LiveRegistry registry{
       systemRegistry,
       {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
@@ -80,6 +85,18 @@ struct WindowsDesktop {
         [this] { explorer.eraseRun(); }}},
       platform::liveBrowserValues(browserSettings, platform::LiveRegistry::Answers::asWritten)};
   platform::LiveFolders folders{plainFolders, plainTree, {browserTraces}};
+=======
+  platform::LiveRegistry registry{systemRegistry,
+                                  {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
+                                    [this] {
+                                      explorer.eraseTyped();
+                                      browserTraces.eraseTyped();
+                                    }},
+                                   {R"(Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU)",
+                                    [this] { explorer.eraseRun(); }}}};
+  platform::JumpListTree jumpLists{plainFolders, plainTree, files};
+  platform::LiveFolders folders{plainFolders, jumpLists, {browserTraces}};
+>>>>>>> 959ace3 (Keep what is pinned when recent documents of Windows go)
   platform::WindowsRecycleBin recycleBin{[this] { return owner; }};
   platform::WindowsSingleInstance instance;
   platform::WindowsProcessEnd process;

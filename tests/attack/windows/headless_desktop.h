@@ -15,6 +15,7 @@
 #include "platform/memory/memory_sound.h"
 #include "platform/memory/memory_window.h"
 #include "platform/shared/browsers/browser_traces.h"
+#include "platform/shared/jump_list_tree.h"
 #include "platform/shared/live_folders.h"
 #include "platform/shared/live_registry.h"
 #include "platform/windows/explorer_history.h"
@@ -86,7 +87,8 @@ class HeadlessDesktop {
                                     }},
                                    {R"(Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU)",
                                     [this] { explorer.eraseRun(); }}}};
-  platform::LiveFolders folders{plainFolders, plainTree, {browserTraces}};
+  platform::JumpListTree jumpLists{plainFolders, plainTree, files};
+  platform::LiveFolders folders{plainFolders, jumpLists, {browserTraces}};
   platform::WindowsRecycleBin recycleBin{[] { return nullptr; }};
   platform::WindowsSingleInstance instance;
   platform::MemoryClock clock;

@@ -1,0 +1,24 @@
+// A file of streams: Microsoft's compound file, read with distrust.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace zelvane::platform {
+
+// The content of the stream called `name` (ASCII), wherever in the file it is. Nothing where there
+// is none or more than one, or where the file is cut, damaged or none of this kind.
+//
+// As [MS-CFB] has it, which Microsoft publishes:
+//
+//     header   sector 0   sector 1   ...                  512 or 4,096 bytes each
+//     the allocation table: for each sector the next one of its chain
+//     the directory: 128 bytes for each stream: its name, its first sector, its length
+//     streams of less than 4,096 bytes lie in small sectors of 64 bytes in a stream of their own,
+//     with a table of their own
+//
+// Takes time and memory in proportion to `file`; a chain that runs in circles is damaged.
+std::optional<std::string> streamIn(std::string_view file, std::string_view name);
+
+}  // namespace zelvane::platform
