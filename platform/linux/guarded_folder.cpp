@@ -117,6 +117,12 @@ std::int64_t GuardedFolder::fileSystem() const {
   return status.f_type;
 }
 
+EntryFacts GuardedFolder::facts() const {
+  const std::optional<EntryFacts> facts = factsOf(descriptor());
+  if (!facts) throwSystemError();
+  return *facts;
+}
+
 std::optional<EntryFacts> GuardedFolder::facts(const std::string& name) {
   singleName(name);
   do {

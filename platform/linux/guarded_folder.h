@@ -54,6 +54,9 @@ class GuardedFolder {
   // The kind of file system, as statfs names it; the same in the whole walk.
   std::int64_t fileSystem() const;
 
+  // What the folder itself is.
+  EntryFacts facts() const;
+
   // What an entry is; nothing where there is none of that name. With force.
   std::optional<EntryFacts> facts(const std::string& name);
 

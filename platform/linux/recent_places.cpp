@@ -9,22 +9,22 @@ namespace zelvane::platform {
 std::span<const RecentPlace> recentPlaces() {
   using enum RecentKind;
   static constexpr auto kTable = std::to_array<RecentPlace>({
-      {"recent documents", list, "{data}/recently-used.xbel"},
-      {"copies that a crash left", copy, "{data}/recently-used.xbel.*"},
-      {"recent documents of former days", list, "{home}/.recently-used.xbel"},
-      {"recent documents of former days", copy, "{home}/.recently-used"},
-      {"recent documents (snap)", list, "{home}/snap/*/*/.local/share/recently-used.xbel"},
-      {"copies (snap)", copy, "{home}/snap/*/*/.local/share/recently-used.xbel.*"},
-      {"recent documents (flatpak)", list, "{home}/.var/app/*/data/recently-used.xbel"},
-      {"copies (flatpak)", copy, "{home}/.var/app/*/data/recently-used.xbel.*"},
-      {"recent documents of KDE", folder, "{data}/RecentDocuments"},
-      {"recent documents of KDE (snap)", folder, "{home}/snap/*/*/.local/share/RecentDocuments"},
-      {"recent documents of KDE (flatpak)", folder, "{home}/.var/app/*/data/RecentDocuments"},
-      {"activities of KDE", activities, "{data}/kactivitymanagerd/resources/database"},
-      {"thumbnails", folder, "{cache}/thumbnails"},
-      {"thumbnails of former days", folder, "{home}/.thumbnails"},
-      {"thumbnails (snap)", folder, "{home}/snap/*/*/.cache/thumbnails"},
-      {"thumbnails (flatpak)", folder, "{home}/.var/app/*/cache/thumbnails"},
+      {"recent documents", "all", list, "{data}/recently-used.xbel"},
+      {"copies that a crash left", "all", copy, "{data}/recently-used.xbel.*"},
+      {"recent documents of former days", "all", list, "{home}/.recently-used.xbel"},
+      {"recent documents of former days", "all", copy, "{home}/.recently-used"},
+      {"recent documents (snap)", "all", list, "{home}/snap/*/*/.local/share/recently-used.xbel"},
+      {"copies (snap)", "all", copy, "{home}/snap/*/*/.local/share/recently-used.xbel.*"},
+      {"recent documents (flatpak)", "all", list, "{home}/.var/app/*/data/recently-used.xbel"},
+      {"copies (flatpak)", "all", copy, "{home}/.var/app/*/data/recently-used.xbel.*"},
+      {"recent documents", "KDE", folder, "{data}/RecentDocuments"},
+      {"recent documents (snap)", "KDE", folder, "{home}/snap/*/*/.local/share/RecentDocuments"},
+      {"recent documents (flatpak)", "KDE", folder, "{home}/.var/app/*/data/RecentDocuments"},
+      {"used documents", "KDE", activities, "{data}/kactivitymanagerd/resources/database"},
+      {"thumbnails", "all", folder, "{cache}/thumbnails"},
+      {"thumbnails of former days", "all", folder, "{home}/.thumbnails"},
+      {"thumbnails (snap)", "all", folder, "{home}/snap/*/*/.cache/thumbnails"},
+      {"thumbnails (flatpak)", "all", folder, "{home}/.var/app/*/cache/thumbnails"},
   });
   return kTable;
 }

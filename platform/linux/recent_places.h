@@ -14,7 +14,8 @@ enum class RecentKind {
 };
 
 struct RecentPlace {
-  std::string_view what;  // as the documentation says it
+  std::string_view what;     // as the documentation says it, as is the next
+  std::string_view desktop;  // whose programs write it; "all" where it is not one desktop's
   RecentKind kind;
   std::string_view path;  // begins with "{home}", "{data}" or "{cache}"; see own_paths.h for "*"
 };

@@ -50,7 +50,7 @@ struct LinuxDesktop {
   platform::LinuxRegistry hive{environment};
   platform::LinuxProfileFile winIni{environment};
   platform::LinuxSpecialFolders plainFolders{environment};
-  platform::LinuxFolderTree plainTree;
+  platform::LinuxFolderTree plainTree{{}, plainFolders};
   platform::RecentlyUsed recentlyUsed{environment};
   platform::LinuxFiles files;
   platform::LinuxBrowserDesktop browsers{environment};
