@@ -21,6 +21,7 @@ class SettingsBackend;
 class SingleInstance;
 class Sound;
 class SpecialFolders;
+class Tray;
 class WindowCommands;
 
 struct Desktop {
@@ -40,6 +41,7 @@ struct Desktop {
   SingleInstance& instance;
   ProcessEnd& process;
   Notifications& notifications;
+  Tray& tray;
   LeftTraces& leftTraces;
   Sound& sound;
   Programs& programs;

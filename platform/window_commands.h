@@ -15,6 +15,9 @@ class WindowCommands : public Port {
   // program that has it.
   virtual void bringForward() = 0;
 
+  // Gives the window, which is visible, the keyboard focus, above the others.
+  virtual void activate() = 0;
+
   // Gives the keyboard focus to the control of that name. An unknown name does nothing.
   virtual void focus(const std::string& controlName) = 0;
 

@@ -21,6 +21,7 @@ display       xvfb                command:Xvfb                       a display w
 display       xauth               command:xauth                      closes it to everyone else
 display       openbox             command:openbox                    a window manager for it
 display       xdotool             command:xdotool                    moves a pointer, types
+display       trayer              command:trayer                     a panel that embeds icons
 display       xclip               command:xclip                      reads and fills its clipboard
 display       dbus                command:dbus-run-session           a session bus that ends with the run
 display       dbus-x11            command:dbus-launch                tells programs of the bus by the display

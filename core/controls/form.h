@@ -18,6 +18,9 @@ class Form : public CaptionedControl {
  public:
   enum class State { normal, minimised };
 
+  // Of the units in which a form is told places, how many make a pixel of the screen.
+  static constexpr double kUnitsPerPixel = 15;
+
   Form(Page& page, std::string name, std::string caption)
       : CaptionedControl(page, std::move(name), std::move(caption)) {
     setVisible(false);
@@ -31,6 +34,7 @@ class Form : public CaptionedControl {
   bool unload(UnloadMode mode);
 
   Event<> activated;
+  Event<double /*x, in the form's units*/> mouseUp;
   Event<bool& /*cancel*/, UnloadMode> queryUnload;
   Event<> unloaded;
   Event<> terminated;

@@ -10,9 +10,14 @@ namespace zelvane::controls {
 // The caption "-" is a separator.
 class MenuItem : public CaptionedControl {
  public:
-  using CaptionedControl::CaptionedControl;
+  // Whether the item is one that may have a mark, of which menus tell also while it has none.
+  enum class Kind { plain, markable };
+
+  MenuItem(Page& page, std::string name, std::string caption, Kind kind = Kind::plain)
+      : CaptionedControl(page, std::move(name), std::move(caption)), kind_(kind) {}
 
   bool separator() const { return caption() == "-"; }
+  bool markable() const { return kind_ == Kind::markable; }
 
   bool checked() const { return checked_; }
 
@@ -29,6 +34,7 @@ class MenuItem : public CaptionedControl {
   Event<> clicked;
 
  private:
+  Kind kind_;
   bool checked_ = false;
 };
 

@@ -32,9 +32,12 @@ void frmMain::wire() {
   mainPage.form.queryUnload.connect(
       [this](bool& cancel, controls::UnloadMode mode) { Form_QueryUnload(cancel, mode); });
   mainPage.form.unloaded.connect([this] { Form_Unload(); });
+  mainPage.form.terminated.connect([this] { Form_Terminate(); });
+  mainPage.form.mouseUp.connect([this](double x) { Form_MouseUp(x); });
   mainPage.cmdClose.clicked.connect([this] { cmdClose_Click(); });
   mainPage.lblWebSite.clicked.connect([this] { lblWebSite_Click(); });
   popupPage.Label9.clicked.connect([this] { Label9_Click(); });
+  wireTray();
 
   // A page whose subsystem is not built yet cannot be used; its controls' own states stay as they
   // are designed.

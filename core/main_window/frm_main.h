@@ -57,6 +57,14 @@ class frmMain {
   void Form_Activate();
   void Form_QueryUnload(bool& cancel, controls::UnloadMode mode);
   void Form_Unload();
+  void Form_Terminate();
+
+  // What was done with the icon in the notification area arrives as a button of the mouse that was
+  // released over the window, at `x`: the number of the mouse message, in the window's units.
+  void Form_MouseUp(double x);
+
+  void mnuShow_Click();
+  void mnuUnloadQuorvex_Click();
   void cmdClose_Click();
   void Label9_Click();
   void lblWebSite_Click();
@@ -64,6 +72,10 @@ class frmMain {
  private:
   // Where two subsystems meet, one line each.
   void wire();
+  void wireTray();
+
+  void showNormal();
+  void keepWindowInReach();
 
   // The load, one step each, in this order. An empty one waits for its subsystem.
   void readAlertSoundPath();

@@ -3,6 +3,7 @@
 
 #include "core/main_window/frm_main.h"
 #include "core/numbers.h"
+#include "core/shell_tray.h"
 #include "core/version_label.h"
 #include "platform/identity.h"
 
@@ -83,7 +84,10 @@ void frmMain::reimposeHomePage() {
   savingOptions_ = true;
 }
 
-void frmMain::addTrayIcon() {}
+void frmMain::addTrayIcon() {
+  core::ShellTray::ShowIcon(desktop_.tray, mainPage.form,
+                            core::versionLabel(desktop_.identity.version()));
+}
 
 void frmMain::emptySchedulePickers() { scheduleSettings_.emptyPickers(); }
 

@@ -8,7 +8,8 @@ namespace zelvane::main_window {
 struct TrayMenu : controls::Page {
   // The version label, once the window is loaded.
   controls::MenuItem mnuShow{*this, "mnuShow", ""};
-  controls::MenuItem mnuPoupKiller{*this, "mnuPoupKiller", "Activate Popup Killer"};
+  controls::MenuItem mnuPoupKiller{*this, "mnuPoupKiller", "Activate Popup Killer",
+                                   controls::MenuItem::Kind::markable};
   controls::MenuItem mnuAbout{*this, "mnuAbout", "About"};
   controls::MenuItem mnuS1{*this, "mnuS1", "-"};
   controls::MenuItem mnuUnloadQuorvex{*this, "mnuUnloadQuorvex", "Exit"};

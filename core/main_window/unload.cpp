@@ -2,17 +2,23 @@
 #include <string>
 
 #include "core/main_window/frm_main.h"
+#include "core/shell_tray.h"
 #include "platform/process_end.h"
+#include "platform/tray.h"
 
 namespace zelvane::main_window {
 
-// The close box only puts the window out of the way. Until there is an icon in the notification
-// area to bring it back, it is minimised, because a hidden window would be lost. Every other unload
-// passes.
+// The close box only puts the window out of the way. It is hidden where the icon that brings it
+// back can be seen; elsewhere a hidden window would be lost, and it stays minimised. Every other
+// unload passes.
 void frmMain::Form_QueryUnload(bool& cancel, controls::UnloadMode mode) {
   handler_([&] {
     if (mode == controls::UnloadMode::controlMenu) {
+      addTrayIcon();
       mainPage.form.setState(controls::Form::State::minimised);
+      if (desktop_.tray.isShown()) {
+        mainPage.form.setVisible(false);
+      }
       cancel = true;
     }
   });
@@ -30,6 +36,10 @@ void frmMain::Form_Unload() {
   endProcess();
 }
 
+void frmMain::Form_Terminate() {
+  handler_([this] { removeTrayIcon(); });
+}
+
 void frmMain::saveStartupBox() {
   settings_.save(core::SettingsStore::Application::title, "Options", "StartUp",
                  std::to_string(mainPage.chkStartup.value()));
@@ -37,7 +47,7 @@ void frmMain::saveStartupBox() {
 
 void frmMain::applyStartupEntry() {}
 
-void frmMain::removeTrayIcon() {}
+void frmMain::removeTrayIcon() { core::ShellTray::RemoveIcon(desktop_.tray, mainPage.form); }
 
 void frmMain::releaseKeyboardHook() {}
 

@@ -57,6 +57,7 @@ struct FaultyDesktop {
             .instance = memory.instance,
             .process = memory.process,
             .notifications = memory.notifications,
+            .tray = memory.tray,
             .leftTraces = memory.leftTraces,
             .sound = memory.sound,
             .programs = programs};

@@ -21,6 +21,7 @@
 #include "platform/memory/memory_single_instance.h"
 #include "platform/memory/memory_sound.h"
 #include "platform/memory/memory_special_folders.h"
+#include "platform/memory/memory_tray.h"
 #include "platform/memory/memory_window.h"
 
 namespace zelvane::platform {
@@ -58,6 +59,7 @@ struct MemoryDesktop {
   MemorySingleInstance instance;
   MemoryProcessEnd process;
   MemoryNotifications notifications;
+  MemoryTray tray;
   LeftTraces leftTraces;
   MemorySound sound;
   MemoryPrograms programs;
@@ -80,6 +82,7 @@ struct MemoryDesktop {
             .instance = instance,
             .process = process,
             .notifications = notifications,
+            .tray = tray,
             .leftTraces = leftTraces,
             .sound = sound,
             .programs = programs};

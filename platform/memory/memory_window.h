@@ -11,6 +11,7 @@ namespace zelvane::platform {
 class MemoryWindow : public WindowCommands {
  public:
   void bringForward() override { calls_.emplace_back("bringForward"); }
+  void activate() override { calls_.emplace_back("activate"); }
   void focus(const std::string& controlName) override { calls_.push_back("focus " + controlName); }
   void repaint(const std::string& controlName) override {
     calls_.push_back("repaint " + controlName);

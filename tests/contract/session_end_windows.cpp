@@ -117,6 +117,7 @@ class SessionEndTest : public testing::Test {
             .instance = desktop.instance,
             .process = process,
             .notifications = desktop.notifications,
+            .tray = desktop.tray,
             .leftTraces = desktop.leftTraces,
             .sound = desktop.sound,
             .programs = desktop.programs};
@@ -226,13 +227,13 @@ TEST_F(SessionEndTest, ARunGoesOnWhereTheSessionDoes) {
             std::string(kUntouched) + ", without /tmp/a, without /tmp/b, without /tmp/c, done");
 }
 
-TEST_F(SessionEndTest, TheCloseBoxInTheMiddleOfARunMinimisesAndTheRunGoesOn) {
+TEST_F(SessionEndTest, TheCloseBoxInTheMiddleOfARunHidesAndTheRunGoesOn) {
   inTheRun([this] { SendMessageW(shell.handle(), WM_SYSCOMMAND, SC_CLOSE, 0); });
 
   pressClean();
 
   EXPECT_EQ(account(), std::string(kUntouched) +
-                           ", unload 0, minimised, without /tmp/a, without /tmp/b, without /tmp/c, "
+                           ", unload 0, hidden, minimised, without /tmp/a, without /tmp/b, without /tmp/c, "
                            "done");
 }
 

@@ -117,7 +117,26 @@ TEST_F(QtShellTest, PressingTheButtonOnTheScreenRunsTheCleaner) {
   EXPECT_TRUE(window.cleanerPage.rtfMessage.text().ends_with("\r\nDone"));
 }
 
-TEST_F(QtShellTest, TheCloseBoxMinimisesAndTheProgramLives) {
+TEST_F(QtShellTest, TheCloseBoxHidesAndTheProgramLives) {
+  shell.close();
+
+  EXPECT_FALSE(shell.isVisible());
+  EXPECT_FALSE(window.mainPage.form.visible());
+  EXPECT_FALSE(desktop.process.ended());
+}
+
+TEST_F(QtShellTest, AHiddenWindowComesBackNormal) {
+  shell.close();
+
+  desktop.tray.use(platform::Tray::kLeftDoubleClicked);
+
+  EXPECT_TRUE(shell.isVisible());
+  EXPECT_FALSE(shell.isMinimized());
+}
+
+TEST_F(QtShellTest, WithoutAPlaceForTheIconTheCloseBoxMinimisesAndTheProgramLives) {
+  desktop.tray.takePlaceAway();
+
   shell.close();
 
   EXPECT_EQ(window.mainPage.form.state(), controls::Form::State::minimised);

@@ -91,7 +91,36 @@ TEST_F(Win32ShellTest, PressingTheButtonOnTheScreenRunsTheCleaner) {
   EXPECT_TRUE(window.cleanerPage.rtfMessage.text().ends_with("\r\nDone"));
 }
 
-TEST_F(Win32ShellTest, TheCloseBoxMinimisesAndTheProgramLives) {
+TEST_F(Win32ShellTest, TheCloseBoxHidesAndTheProgramLives) {
+  SendMessageW(shell.handle(), WM_CLOSE, 0, 0);
+
+  EXPECT_FALSE(IsWindowVisible(shell.handle()));
+  EXPECT_FALSE(window.mainPage.form.visible());
+  EXPECT_FALSE(desktop.process.ended());
+}
+
+TEST_F(Win32ShellTest, AHiddenWindowComesBackNormal) {
+  SendMessageW(shell.handle(), WM_CLOSE, 0, 0);
+
+  desktop.tray.use(platform::Tray::kLeftDoubleClicked);
+
+  EXPECT_TRUE(IsWindowVisible(shell.handle()));
+  EXPECT_FALSE(IsIconic(shell.handle()));
+  EXPECT_EQ(window.mainPage.form.state(), controls::Form::State::normal);
+}
+
+TEST_F(Win32ShellTest, AHiddenWindowWhoseIconIsLostIsShownMinimised) {
+  SendMessageW(shell.handle(), WM_CLOSE, 0, 0);
+
+  desktop.tray.takePlaceAway();
+
+  EXPECT_TRUE(IsWindowVisible(shell.handle()));
+  EXPECT_TRUE(IsIconic(shell.handle()));
+}
+
+TEST_F(Win32ShellTest, WithoutAPlaceForTheIconTheCloseBoxMinimisesAndTheProgramLives) {
+  desktop.tray.takePlaceAway();
+
   SendMessageW(shell.handle(), WM_CLOSE, 0, 0);
 
   EXPECT_EQ(window.mainPage.form.state(), controls::Form::State::minimised);

@@ -11,6 +11,15 @@ TEST_P(WindowCommandsContract, TheWindowComesForward) {
   EXPECT_TRUE(bed->isForward());
 }
 
+TEST_P(WindowCommandsContract, AWindowThatIsActivatedHasTheKeys) {
+  bed->window().bringForward();
+  ASSERT_TRUE(bed->isForward());
+
+  bed->window().activate();
+
+  EXPECT_TRUE(bed->isActive());
+}
+
 TEST_P(WindowCommandsContract, TheNamedControlHasTheFocus) {
   bed->window().bringForward();
 

@@ -20,6 +20,7 @@ class WindowCommandsBed {
 
   // Can be seen by the user, as soon as the desktop has had its time.
   virtual bool isForward() = 0;
+  virtual bool isActive() = 0;
   virtual std::string focused() const = 0;
 
   // How often the control was painted so far.

@@ -10,6 +10,7 @@ class MemoryWindowBed : public WindowCommandsBed {
  public:
   platform::WindowCommands& window() override { return window_; }
   bool isForward() override { return timesTold("bringForward") > 0; }
+  bool isActive() override { return timesTold("activate") > 0; }
 
   std::string focused() const override {
     constexpr std::string_view kFocus = "focus ";

@@ -38,6 +38,8 @@ class QtWindowBed : public WindowCommandsBed {
     return widget_.isVisible() && !widget_.isMinimized() && QTest::qWaitForWindowExposed(&widget_);
   }
 
+  bool isActive() override { return QTest::qWaitForWindowActive(&widget_); }
+
   std::string focused() const override {
     const QWidget* focused = widget_.focusWidget();
     return focused == nullptr ? std::string() : focused->objectName().toStdString();
@@ -62,6 +64,7 @@ TEST(QtWindowCommands, WithoutAWindowEveryCommandDoesNothing) {
   qt::QtWindowCommands commands;
 
   EXPECT_NO_THROW(commands.bringForward());
+  EXPECT_NO_THROW(commands.activate());
   EXPECT_NO_THROW(commands.focus("txtFirst"));
   EXPECT_NO_THROW(commands.repaint("txtFirst"));
 }

@@ -40,6 +40,11 @@ class Win32WindowBed : public WindowCommandsBed {
     return IsWindowVisible(window_.handle()) && !IsIconic(window_.handle());
   }
 
+  bool isActive() override {
+    deliverAll();
+    return GetForegroundWindow() == window_.handle();
+  }
+
   std::string focused() const override {
     const win32::Window* focused = win32::Window::of(GetFocus());
     return focused == nullptr ? std::string() : focused->control()->name();
@@ -81,6 +86,7 @@ TEST(Win32WindowCommands, WithoutAWindowEveryCommandDoesNothing) {
   win32::Win32WindowCommands commands;
 
   EXPECT_NO_THROW(commands.bringForward());
+  EXPECT_NO_THROW(commands.activate());
   EXPECT_NO_THROW(commands.focus("txtFirst"));
   EXPECT_NO_THROW(commands.repaint("txtFirst"));
 }

@@ -21,6 +21,7 @@
 #include "platform/memory/memory_process_end.h"
 #include "platform/memory/memory_programs.h"
 #include "platform/memory/memory_sound.h"
+#include "platform/memory/memory_tray.h"
 #include "platform/memory/memory_window.h"
 #include "platform/shared/live_folders.h"
 #include "tests/support/program_without_window.h"
@@ -60,6 +61,7 @@ class HeadlessDesktop {
   platform::MemoryNotifications notifications;
   platform::MemorySound sound;
   platform::MemoryPrograms programs;
+  platform::MemoryTray tray;
   platform::LeftTraces leftTraces;
 
   platform::Desktop ports() {
@@ -79,6 +81,7 @@ class HeadlessDesktop {
             .instance = instance,
             .process = process,
             .notifications = notifications,
+            .tray = tray,
             .leftTraces = leftTraces,
             .sound = sound,
             .programs = programs};

@@ -34,6 +34,7 @@
 #include "ui/qt/qt_dialogs.h"
 #include "ui/qt/qt_event_pump.h"
 #include "ui/qt/qt_notifications.h"
+#include "ui/qt/qt_tray.h"
 #include "ui/qt/qt_window_commands.h"
 
 namespace zelvane {
@@ -78,6 +79,7 @@ struct LinuxDesktop {
   qt::QtDialogs dialogs;
   qt::QtWindowCommands window;
   qt::QtEventPump pump;
+  qt::QtTray tray;
 
   platform::Desktop ports() {
     return {.identity = identity,
@@ -96,6 +98,7 @@ struct LinuxDesktop {
             .instance = instance,
             .process = process,
             .notifications = notifications,
+            .tray = tray,
             .leftTraces = leftTraces,
             .sound = sound,
             .programs = programs};
@@ -113,6 +116,7 @@ int run(char** arguments) {
   qt::MainWindow shell(window, boxes);
   desktop.dialogs.attach(shell);
   desktop.window.attach(shell);
+  desktop.tray.attach(shell, shell.trayMenu());
   application.whenToldToQuit([&] { window.mainPage.form.unload(controls::UnloadMode::windows); });
 
   platform::refillDataFolder(desktop.identity.dataFolder());

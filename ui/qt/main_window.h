@@ -7,6 +7,7 @@
 #include "core/controls/open_boxes.h"
 #include "core/main_window/frm_main.h"
 #include "ui/qt/mirror/form_widget.h"
+#include "ui/qt/mirror/menu_widget.h"
 
 namespace zelvane::qt {
 
@@ -14,6 +15,9 @@ namespace zelvane::qt {
 class MainWindow : public FormWidget {
  public:
   MainWindow(main_window::frmMain& window, controls::OpenBoxes& boxes);
+
+  // Of the icon in the notification area.
+  QMenu& trayMenu() { return trayMenu_; }
 
  private:
   // The widgets of controls, by the controls' names.
@@ -23,6 +27,8 @@ class MainWindow : public FormWidget {
   Widgets widgetsByName() const;
   void nameByLabels(main_window::frmMain& window, const Widgets& widgets);
   void orderTabKeys(main_window::frmMain& window, const Widgets& widgets);
+
+  MenuWidget& trayMenu_;
 };
 
 }  // namespace zelvane::qt

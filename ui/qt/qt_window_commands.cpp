@@ -15,6 +15,13 @@ void QtWindowCommands::bringForward() {
   window_->setAttribute(Qt::WA_ShowWithoutActivating, false);
 }
 
+void QtWindowCommands::activate() {
+  if (window_) {
+    window_->raise();
+    window_->activateWindow();
+  }
+}
+
 void QtWindowCommands::focus(const std::string& controlName) {
   if (QWidget* widget = find(controlName)) {
     widget->setFocus(Qt::OtherFocusReason);

@@ -14,6 +14,7 @@ class QtWindowCommands : public platform::WindowCommands {
   void attach(QWidget& window) { window_ = &window; }
 
   void bringForward() override;
+  void activate() override;
   void focus(const std::string& controlName) override;
   void repaint(const std::string& controlName) override;
 

@@ -10,12 +10,9 @@
 #include "platform/left_traces.h"
 #include "platform/shared/browsers/browser_settings.h"
 #include "platform/shared/browsers/browser_traces.h"
-<<<<<<< HEAD
 #include "platform/shared/browsers/former_pages.h"
 #include "platform/shared/browsers/live_browser_values.h"
-=======
 #include "platform/shared/jump_list_tree.h"
->>>>>>> 959ace3 (Keep what is pinned when recent documents of Windows go)
 #include "platform/shared/live_folders.h"
 #include "platform/shared/live_registry.h"
 #include "platform/windows/explorer_history.h"
@@ -39,6 +36,7 @@
 #include "ui/win32/win32_dialogs.h"
 #include "ui/win32/win32_event_pump.h"
 #include "ui/win32/win32_notifications.h"
+#include "ui/win32/win32_tray.h"
 #include "ui/win32/win32_window_commands.h"
 
 namespace zelvane {
@@ -73,7 +71,6 @@ struct WindowsDesktop {
   platform::FormerPages formerPages{identity.dataFolder(), browsers, files};
   platform::BrowserSettings browserSettings{browsers, files, formerPages, notifications};
   platform::ExplorerHistory explorer{systemRegistry};
-<<<<<<< HEAD
   platform::LiveRegistry registry{
       systemRegistry,
       {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
@@ -85,7 +82,6 @@ struct WindowsDesktop {
         [this] { explorer.eraseRun(); }}},
       platform::liveBrowserValues(browserSettings, platform::LiveRegistry::Answers::asWritten)};
   platform::LiveFolders folders{plainFolders, plainTree, {browserTraces}};
-=======
   platform::LiveRegistry registry{systemRegistry,
                                   {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
                                     [this] {
@@ -96,7 +92,6 @@ struct WindowsDesktop {
                                     [this] { explorer.eraseRun(); }}}};
   platform::JumpListTree jumpLists{plainFolders, plainTree, files};
   platform::LiveFolders folders{plainFolders, jumpLists, {browserTraces}};
->>>>>>> 959ace3 (Keep what is pinned when recent documents of Windows go)
   platform::WindowsRecycleBin recycleBin{[this] { return owner; }};
   platform::WindowsSingleInstance instance;
   platform::WindowsProcessEnd process;
@@ -106,6 +101,7 @@ struct WindowsDesktop {
   win32::Win32Dialogs dialogs;
   win32::Win32WindowCommands window;
   win32::Win32EventPump pump;
+  win32::Win32Tray tray;
 
   platform::Desktop ports() {
     return {.identity = identity,
@@ -124,6 +120,7 @@ struct WindowsDesktop {
             .instance = instance,
             .process = process,
             .notifications = notifications,
+            .tray = tray,
             .leftTraces = leftTraces,
             .sound = sound,
             .programs = programs};
@@ -139,6 +136,7 @@ int run() {
   win32::Look look;
   win32::MainWindow shell(window, boxes, look);
   desktop.attach(shell.handle());
+  desktop.tray.attach(shell, window.trayMenu.mnuQuorvex);
 
   main_window::GenFunc::Main(ports, window);
   win32::runMessageLoop();

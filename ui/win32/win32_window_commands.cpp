@@ -16,6 +16,12 @@ void Win32WindowCommands::bringForward() {
   SetWindowPos(window_, HWND_NOTOPMOST, 0, 0, 0, 0, kOrderOnly);
 }
 
+void Win32WindowCommands::activate() {
+  if (window_ != nullptr) {
+    SetForegroundWindow(window_);
+  }
+}
+
 void Win32WindowCommands::focus(const std::string& controlName) {
   if (const Window* window = Window::find(window_, controlName)) {
     SetFocus(window->handle());

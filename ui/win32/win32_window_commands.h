@@ -13,6 +13,7 @@ class Win32WindowCommands : public platform::WindowCommands {
   void attach(HWND window) { window_ = window; }
 
   void bringForward() override;
+  void activate() override;
   void focus(const std::string& controlName) override;
   void repaint(const std::string& controlName) override;
 

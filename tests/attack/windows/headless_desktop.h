@@ -13,6 +13,7 @@
 #include "platform/memory/memory_process_end.h"
 #include "platform/memory/memory_programs.h"
 #include "platform/memory/memory_sound.h"
+#include "platform/memory/memory_tray.h"
 #include "platform/memory/memory_window.h"
 #include "platform/shared/browsers/browser_traces.h"
 #include "platform/shared/jump_list_tree.h"
@@ -100,6 +101,7 @@ class HeadlessDesktop {
   platform::MemoryNotifications notifications;
   platform::MemorySound sound;
   platform::MemoryPrograms programs;
+  platform::MemoryTray tray;
 
   platform::Desktop ports() {
     return {.identity = identity,
@@ -118,6 +120,7 @@ class HeadlessDesktop {
             .instance = instance,
             .process = process,
             .notifications = notifications,
+            .tray = tray,
             .leftTraces = leftTraces,
             .sound = sound,
             .programs = programs};

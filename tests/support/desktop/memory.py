@@ -11,7 +11,7 @@ class MemoryWatch:
     what the process has for itself, and its share of what it has together with others."""
 
     def __init__(self, pid):
-        self._file = pathlib.Path(f"/proc/{pid}/smaps_rollup")
+        self._pid = pid
         self._over = threading.Event()
         self._thread = threading.Thread(target=self._watch)
         self.most = 0
@@ -33,6 +33,10 @@ class MemoryWatch:
                 return  # The process has ended.
 
     def _look(self):
-        line = next(line for line in self._file.read_text("ascii").splitlines()
-                    if line.startswith("Pss:"))
-        self.most = max(self.most, int(line.split()[1]) * 1024)
+        self.most = max(self.most, share_of(self._pid))
+
+
+def share_of(pid):
+    """What the process has now, in bytes, reckoned likewise."""
+    lines = pathlib.Path(f"/proc/{pid}/smaps_rollup").read_text("ascii").splitlines()
+    return next(int(line.split()[1]) * 1024 for line in lines if line.startswith("Pss:"))

@@ -21,7 +21,7 @@ QString meaning(Image image) {
 }  // namespace
 
 PictureWidget::PictureWidget(controls::Picture& control, int side, QWidget& parent)
-    : QWidget(&parent), drawing_(resource(control.image())) {
+    : QWidget(&parent), image_(control.image()), drawing_(resource(control.image())) {
   setFixedSize(side, side);
   setAccessibleName(meaning(control.image()));
   mirrorControl(control, *this);

@@ -14,10 +14,13 @@ class PictureWidget : public QWidget {
   // `side` is that of the square it fills, in units of the toolkit.
   PictureWidget(controls::Picture& control, int side, QWidget& parent);
 
+  controls::Picture::Image image() const { return image_; }
+
  protected:
   void paintEvent(QPaintEvent* event) override;
 
  private:
+  controls::Picture::Image image_;
   QSvgRenderer drawing_;
 };
 

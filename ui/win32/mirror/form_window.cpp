@@ -225,6 +225,10 @@ LRESULT FormWindow::onMessage(UINT message, WPARAM word, LPARAM value) {
       }
       break;
     default:
+      if (const auto found = answers_.find(message); found != answers_.end()) {
+        found->second(word, value);
+        return 0;
+      }
       break;
   }
   return Pane::onMessage(message, word, value);

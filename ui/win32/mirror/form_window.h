@@ -1,6 +1,10 @@
 // A window on the screen.
 #pragma once
 
+#include <functional>
+#include <map>
+#include <utility>
+
 #include "core/controls/form.h"
 #include "ui/win32/mirror/pane.h"
 
@@ -29,6 +33,12 @@ class FormWindow : public Pane {
   // in the window, because finding that out by itself would make every other message slower.
   void followPointer(MSG& message);
 
+  // Calls `handle` with what comes with each such message to the window: for ports that are told of
+  // something by a window.
+  void answer(UINT message, std::function<void(WPARAM, LPARAM)> handle) {
+    answers_[message] = std::move(handle);
+  }
+
   // What the keys do before they come to a control. True when that was all.
   virtual bool onKey(const MSG& /*message*/) { return false; }
 
@@ -54,6 +64,7 @@ class FormWindow : public Pane {
   HWND focused_ = nullptr;  // who had the keys when the window lost them
   bool layoutAsked_ = false;
   bool settled_ = false;
+  std::map<UINT, std::function<void(WPARAM, LPARAM)>> answers_;
 };
 
 }  // namespace zelvane::win32

@@ -13,6 +13,7 @@ class IconWindow : public Window {
   IconWindow(const wchar_t* resource, int side, Pane& parent);
 
   Size natural() const override;
+  const wchar_t* resource() const { return resource_; }
 
  protected:
   LRESULT onMessage(UINT message, WPARAM word, LPARAM value) override;

@@ -1,0 +1,23 @@
+// The few questions to the X server that the toolkit does not ask for us.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+struct xcb_connection_t;
+
+namespace zelvane::qt {
+
+// The toolkit's own connection; null on any other kind of display.
+xcb_connection_t* x11Connection();
+
+// The number of the screen that it is for.
+int x11Screen();
+
+// The server's number for a name; 0 where it does not answer.
+std::uint32_t atomOf(xcb_connection_t& connection, const std::string& name);
+
+// The window that owns a selection; 0 for none.
+std::uint32_t ownerOf(xcb_connection_t& connection, std::uint32_t selection);
+
+}  // namespace zelvane::qt
