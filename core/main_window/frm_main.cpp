@@ -41,10 +41,8 @@ void frmMain::wire() {
 
   // A page whose subsystem is not built yet cannot be used; its controls' own states stay as they
   // are designed.
-  for (controls::Frame* frame : {&fileSecurityPage.fmDravik}) {
-    frame->setDescription("This page comes with a later version.");
-    frame->setEnabled(false);
-  }
+  fileSecurityPage.fmDravik.setDescription("This page comes with a later version.");
+  fileSecurityPage.fmDravik.setEnabled(false);
 }
 
 std::vector<const controls::Page*> frmMain::pages() const {

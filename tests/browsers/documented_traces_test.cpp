@@ -36,7 +36,8 @@ std::string rowsOfDatabase(const platform::DatabaseRule& rule) {
     what.push_back(code(row.table) + (row.stays.empty() ? "" : " in part"));
   for (const auto& column : rule.columns)
     what.push_back(code(std::string(column.table) + "." + std::string(column.column)));
-  if (rule.others == platform::Others::erased) what.push_back("all tables but " + code(rule.kept.front()));
+  if (rule.others == platform::Others::erased)
+    what.push_back("all tables but " + code(rule.kept.front()));
   return "| " + std::string(rule.name) + " | " + code(rule.file) + ": " + joined(what) + " |\n";
 }
 

@@ -232,9 +232,10 @@ TEST_F(SessionEndTest, TheCloseBoxInTheMiddleOfARunHidesAndTheRunGoesOn) {
 
   pressClean();
 
-  EXPECT_EQ(account(), std::string(kUntouched) +
-                           ", unload 0, hidden, minimised, without /tmp/a, without /tmp/b, without /tmp/c, "
-                           "done");
+  EXPECT_EQ(account(),
+            std::string(kUntouched) +
+                ", unload 0, hidden, minimised, without /tmp/a, without /tmp/b, without /tmp/c, "
+                "done");
 }
 
 }  // namespace

@@ -74,10 +74,7 @@ TEST_F(FrmMainTest, TheInternetPageShowsItsBoxesInTheirOrder) {
 }
 
 TEST_F(FrmMainTest, APageThatIsNotBuiltYetIsDisabledByItsFrameAlone) {
-  for (const controls::Frame* frame :
-       {&window.fileSecurityPage.fmDravik}) {
-    EXPECT_FALSE(frame->enabled()) << frame->name();
-  }
+  EXPECT_FALSE(window.fileSecurityPage.fmDravik.enabled());
   EXPECT_TRUE(window.fileSecurityPage.cmdEncrypt.enabled());
   EXPECT_FALSE(window.fileSecurityPage.cmdEncrypt.reachable());
   EXPECT_TRUE(window.schedulePage.cmbDays.reachable());
