@@ -8,6 +8,9 @@ SchedulePage::SchedulePage() {
       control->placeIn(fmSchedule);
     }
   }
+  fmSchedule.setDescription(
+      "A cleaning starts by itself at this time; without a time, when so many hours have struck "
+      "since the last run that day.");
   lblDays.labels(cmbDays);
   lblDate.labels(dtpScheduleDate);
   lblTime.labels(dtpScheduleTime);

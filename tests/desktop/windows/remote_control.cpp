@@ -3,6 +3,8 @@
 #include <array>
 #include <stdexcept>
 
+#include <commctrl.h>
+
 #include "platform/windows/wide_text.h"
 #include "tests/desktop/windows/waiting.h"
 
@@ -54,6 +56,36 @@ bool RemoteControl::isTicked() const { return askWindow(window_, BM_GETCHECK) ==
 void RemoteControl::tick(bool ticked) const {
   if (isTicked() != ticked) pressAndWait();
   if (isTicked() != ticked) throw std::runtime_error("\"" + name() + "\" is not ticked so");
+}
+
+// As the list tells it: an open list cannot be seen from here.
+void RemoteControl::choose(int place) const {
+  requireReach();
+  askWindow(window_, CB_SETCURSEL, static_cast<WPARAM>(place));
+  askWindow(GetParent(window_), WM_COMMAND, MAKEWPARAM(GetDlgCtrlID(window_), CBN_SELCHANGE),
+            reinterpret_cast<LPARAM>(window_));
+}
+
+// A press beside the digits selects the seconds.
+void RemoteControl::setTime(const std::string& time) const {
+  requireReach();
+  const RemoteControl box(FindWindowExW(window_, nullptr, WC_BUTTONW, nullptr));
+  if (!box.isTicked()) box.pressAndWait();
+  RECT field{};
+  GetClientRect(window_, &field);
+  const LPARAM beside = MAKELPARAM(field.right - 30, field.bottom / 2);
+  askWindow(window_, WM_LBUTTONDOWN, MK_LBUTTON, beside);
+  askWindow(window_, WM_LBUTTONUP, 0, beside);
+  askWindow(window_, WM_KEYDOWN, VK_LEFT);
+  askWindow(window_, WM_KEYDOWN, VK_LEFT);
+  for (const char letter : time) {
+    if (letter == ':') {
+      askWindow(window_, WM_KEYDOWN, VK_RIGHT);
+    } else {
+      askWindow(window_, WM_CHAR, static_cast<WPARAM>(letter));
+    }
+  }
+  if (text() != time) throw std::runtime_error("the time is " + text() + " instead of " + time);
 }
 
 void RemoteControl::type(const std::string& text) const {

@@ -41,6 +41,12 @@ class RemoteControl {
   bool isTicked() const;
   void tick(bool ticked = true) const;
 
+  // Chooses from a list, by place.
+  void choose(int place) const;
+
+  // Ticks the box of a time picker and types "hh:mm:ss" into it.
+  void setTime(const std::string& time) const;
+
   // Replaces the text of a box, letter by letter.
   void type(const std::string& text) const;
 

@@ -11,10 +11,13 @@ from desktop.waiting import PATIENCE, wait_until
 AREA = "filler"
 BUTTON = "push button"
 CHECK_BOX = "check box"
+COMBO_BOX = "combo box"  # its name is what is chosen in it
 DIALOG = ("dialog", "alert")
 FRAME = "frame"  # which is what it calls a window
 LABEL = "label"
+LIST_ITEM = "list item"
 SCROLL_BAR = "scroll bar"
+SPIN_BUTTON = "spin button"
 TAB = "page tab"
 TEXT = "text"
 

@@ -235,9 +235,9 @@ TEST_F(LoadTest, AStoredScheduleIsShownAndAppliedWithTheTimeOfTheLastRun) {
   EXPECT_TRUE(desktop.settings.saves().empty());
 }
 
-class SpoiltScheduleTest : public LoadTest, public testing::WithParamInterface<SpoiltNumber> {};
+class SpoiltRunOnTest : public LoadTest, public testing::WithParamInterface<SpoiltNumber> {};
 
-TEST_P(SpoiltScheduleTest, EndsTheLoadWithItsErrorAndStaysStored) {
+TEST_P(SpoiltRunOnTest, EndsTheLoadWithItsErrorAndStaysStored) {
   desktop.settings.put("Schedule", "RunOn", GetParam().stored);
 
   start();
@@ -249,7 +249,7 @@ TEST_P(SpoiltScheduleTest, EndsTheLoadWithItsErrorAndStaysStored) {
   EXPECT_TRUE(window.mainPage.form.visible());
 }
 
-INSTANTIATE_TEST_SUITE_P(EachKind, SpoiltScheduleTest,
+INSTANTIATE_TEST_SUITE_P(EachKind, SpoiltRunOnTest,
                          testing::Values(SpoiltNumber{"abc", "Error: 13 - Type mismatch"},
                                          SpoiltNumber{"40000", "Error: 6 - Overflow"}));
 
