@@ -7,6 +7,7 @@ import json
 import subprocess
 
 from desktop.program import Program
+from desktop.waiting import TookTooLong, wait_until
 from glass.browsers import Chromium, MovedFirefox, SecondChromium, UsualFirefox
 from glass.finder import Glass
 from glass.server import Server
@@ -23,9 +24,10 @@ NOT_BROWSERS = ("Downloads/", ".local/share/recently-used.xbel")
 class Travels:
     """On one desktop. All pages come from one server, which lasts as long as the process."""
 
-    def __init__(self, desktop, path):
+    def __init__(self, desktop, path, chains=CHAINS):
         self._desktop = desktop
         self._path = path
+        self._chains = chains
         self._homes = 0
         self.server = Server().__enter__()
 
@@ -50,8 +52,8 @@ class Travels:
     def _travelled(self, end):
         web = Web(self._desktop, self._path, self._new_home(), Manifest())
         # A browser ends with the thread that has started it, so these stay until all have ended.
-        with concurrent.futures.ThreadPoolExecutor(len(CHAINS)) as pool:
-            for travelled in [pool.submit(self._travel, web, kinds, end) for kinds in CHAINS]:
+        with concurrent.futures.ThreadPoolExecutor(len(self._chains)) as pool:
+            for travelled in [pool.submit(self._travel, web, kinds, end) for kinds in self._chains]:
                 web.browsers += travelled.result()
         web.manifest.addresses = sorted(self.server.visited)
         return web
@@ -116,7 +118,10 @@ class Web:
         with Program(self._path, self._desktop, self.home) as program:
             window = program.window()
             window.tick_only(*options)
-            return window.clean(120)
+            window.begin_to_clean()
+            # On a machine that has all hands full with browsers, the window may take a while to answer.
+            return wait_until(lambda: window.end_of_run(60), "the run ends", 180,
+                              refused=(TookTooLong,))
 
     def profile_names(self):
         """As each browser's own list has them."""

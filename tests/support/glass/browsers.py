@@ -13,6 +13,7 @@ import subprocess
 from desktop import processes
 from desktop.waiting import TookTooLong, wait_until
 
+from glass import hands
 from glass.devtools import DevTools, Refused
 from glass.extension import Extension
 from glass.hands import Hands
@@ -22,7 +23,7 @@ from glass.tokens import KEEP
 
 TRIES = 8  # a page that was only just shown takes no clicks
 SOON = 5  # seconds; what has not come of a click by then never will
-AT_START = 90  # seconds; both browsers at once, on a busy machine
+AT_START = 180  # seconds; both browsers at once, on a busy machine
 
 
 class Browser:
@@ -40,6 +41,7 @@ class Browser:
         self._desktop = desktop
         self._server = server
         self._process = None
+        self.orders = None
 
     def at(self, home):
         """The same profile in a copy of the home, without a journey of its own."""
@@ -76,8 +78,13 @@ class Browser:
 
     def go_to(self, page):
         """Types the page's address."""
-        self._until_told(page, lambda: self._type_address(
-            self.journey.addresses[page].removeprefix("http://")))
+        address = self.journey.addresses[page].removeprefix("http://")
+        self._until_told(page, lambda: self._type(address))
+
+    def go_back_to(self, page):
+        """Where it has been on its journey."""
+        self._server.forget(self.journey.event(page), self.journey.addresses[page])
+        self.go_to(page)
 
     def kill(self):
         """With all that it has started."""
@@ -95,7 +102,9 @@ class Browser:
         self._process.wait(60)
         # Its other processes go a moment later than itself.
         wait_until(lambda: not _is_held_open(self.folder.parent), f"{self.name} lets go", 60)
-        self._hang_up()
+        if self.orders:
+            self.orders.hang_up()
+            self.orders = None
 
     def _log(self):
         return open(self.home.runtime / f"{self.name}-{self.profile}.log", "ab")
@@ -107,14 +116,15 @@ class Browser:
         self._server.wait_for(self.journey.event(page), 60)
 
     def _until(self, done, act, what):
+        reasons = []
         for _ in range(TRIES):
             try:
                 act()
             except Refused as reason:
-                what = f"{what} ({reason})"
+                reasons.append(str(reason))
             if self._server.wait_until(done, SOON):
                 return
-        raise TookTooLong(f"{TRIES} times were not enough: {what}")
+        raise TookTooLong(f"{TRIES} times were not enough: {what} {reasons}")
 
     def _has_stored_it(self):
         """So that a browser that is killed has left something."""
@@ -154,21 +164,18 @@ class Firefox(Browser):
         (self.folder / "user.js").write_text(
             "".join(f'user_pref("{name}", {value});\n' for name, value in self.PREFERENCES.items()),
             "ascii")
-        with self._log() as log:
+        with self._log() as log, hands.keyboard:  # a new window takes the keys from any other
             self._process = processes.start(
-                ["firefox-esr", "--profile", str(self.folder), "--no-remote", "--marionette", "--remote-allow-system-access",
-                 address], env=self._desktop.environment(self.home), cwd=self.home.home,
+                ["firefox-esr", "--profile", str(self.folder), "--no-remote", "--marionette",
+                 "--remote-allow-system-access", address],
+                env=self._desktop.environment(self.home), cwd=self.home.home,
                 stdin=subprocess.DEVNULL, stdout=log, stderr=log, start_new_session=True)
-        self.orders = wait_until(lambda: Marionette(int(listening.read_text())),
-                                 "Firefox listens", AT_START,
-                                 refused=(FileNotFoundError, ValueError, ConnectionError))
+            self.orders = wait_until(lambda: Marionette(int(listening.read_text())),
+                                     "Firefox listens", AT_START, refused=(OSError, ValueError))
 
     def close(self):
         self.orders.quit()
         self._ended()
-
-    def _hang_up(self):
-        self.orders.hang_up()
 
     def _click(self):
         self.orders.click("a")
@@ -176,7 +183,7 @@ class Firefox(Browser):
     def _fill_in(self):
         self.orders.type_into("input", self.journey.texts["field"] + ENTER)
 
-    def _type_address(self, address):
+    def _type(self, address):
         self.orders.type_address(address)
 
     def _bookmark(self):
@@ -248,7 +255,8 @@ class Chromium(Browser):
                 ["chromium", f"--user-data-dir={self.folder.parent}",
                  f"--profile-directory={self.folder_name}", "--no-sandbox", "--no-first-run",
                  "--password-store=basic", f"--load-extension={self.extension.folder}",
-                 "--disable-features=DisableLoadExtensionCommandLineSwitch", "--window-size=1000,800", "--window-position=0,0",
+                 "--disable-features=DisableLoadExtensionCommandLineSwitch",
+                 "--window-size=1000,800", "--window-position=0,0",
                  "--host-resolver-rules=MAP * 127.0.0.1", address],
                 env=self._desktop.environment(self.home), cwd=self.home.home, stdout=log, stderr=log)
         self._process = self.orders.process
@@ -260,6 +268,13 @@ class Chromium(Browser):
         self.orders.ask("Browser.close")
         self._ended()
 
+    def in_page_of_its_own(self, address, script):
+        """Runs a script in one of the browser's own pages, until that can do it."""
+        page = self.orders.ask("Target.createTarget", url=address)["targetId"]
+        session = self.orders.attach(page)
+        wait_until(lambda: self.orders.run(session, script) is not False, script, 60)
+        self.orders.ask("Target.closeTarget", targetId=page)
+
     @classmethod
     def list_profiles(cls, home):
         """It does so itself."""
@@ -267,9 +282,6 @@ class Chromium(Browser):
     @classmethod
     def _folder_in(cls, home):
         return home.config / "chromium" / cls.folder_name
-
-    def _hang_up(self):
-        self.orders.hang_up()
 
     def _look_at(self, page):
         self._page = page
@@ -286,41 +298,28 @@ class Chromium(Browser):
         for letter in self.journey.texts["field"] + "\r":
             self.orders.ask("Input.dispatchKeyEvent", self._session, type="char", text=letter)
 
-    def _type_address(self, address):
-        with self._hands.keyboard:
+    def _type(self, address):
+        with hands.keyboard:
             self._hands.go_to(address)
             self._server.wait_until(lambda: f"http://{address}" in self._server.visited, SOON)
 
     def _bookmark(self):
-        def bookmarked():
-            with self._hands.keyboard:
-                self._hands.press("ctrl+d")
-                self._hands.press("Return")  # to the question that comes with it
-            return wait_until(self._is_bookmarked, "", SOON)
-        wait_until(bookmarked, f"{self.name} has stored the bookmark", 60, refused=(TookTooLong,))
-
-    def _is_bookmarked(self):
-        bookmarks = self.folder / "Bookmarks"
-        return bookmarks.exists() and self.journey.texts["bookmark"] in bookmarks.read_text("utf-8")
+        self.in_page_of_its_own("chrome://bookmarks/", f"""
+            chrome.bookmarks.create({{parentId: '1', title: '{self.journey.texts["bookmark"]}',
+                url: '{self.journey.addresses["kept"]}'}})""")
 
     def _extend(self):
         """It was told of it when it started."""
 
     def _keep_a_password(self, address, user):
-        self._in_page_of_its_own("chrome://password-manager/passwords", f"""
+        self.in_page_of_its_own("chrome://password-manager/passwords", f"""
             chrome.passwordsPrivate.addPassword({{url: '{address}', username: '{user}',
                 password: 'secret', note: '', useAccountStore: false}})""")
 
     def _choose(self):
         """A setting that is not the usual one."""
-        self._in_page_of_its_own("chrome://settings/", """
+        self.in_page_of_its_own("chrome://settings/", """
             chrome.settingsPrivate.setPref('webkit.webprefs.default_font_size', 21)""")
-
-    def _in_page_of_its_own(self, address, script):
-        page = self.orders.ask("Target.createTarget", url=address)["targetId"]
-        session = self.orders.attach(page)
-        wait_until(lambda: self.orders.run(session, script) is not False, script, 60)
-        self.orders.ask("Target.closeTarget", targetId=page)
 
     def _open_tab(self):
         self._look_at(self.orders.ask("Target.createTarget", url="chrome://newtab/")["targetId"])

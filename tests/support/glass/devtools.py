@@ -12,7 +12,10 @@ import subprocess
 import time
 
 from desktop import processes
-from desktop.waiting import PATIENCE, TookTooLong
+from desktop.waiting import TookTooLong
+
+
+ANSWER = 120  # seconds; only a failure ever takes so long
 
 
 class Refused(LookupError):
@@ -35,7 +38,7 @@ class DevTools:
         self._unread = b""
         self._number = 0
 
-    def ask(self, method, session=None, seconds=PATIENCE, **parameters):
+    def ask(self, method, session=None, seconds=ANSWER, **parameters):
         """Returns the answer; throws Refused for one that says no."""
         self._number += 1
         message = {"id": self._number, "method": method, "params": parameters}

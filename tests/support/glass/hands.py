@@ -6,7 +6,8 @@ import threading
 
 from desktop.waiting import PATIENCE, wait_until
 
-_keyboard = threading.RLock()
+# To be held in a `with` block by whoever does several things that belong together.
+keyboard = threading.RLock()
 
 
 class Hands:
@@ -16,19 +17,14 @@ class Hands:
         self._pid = pid
         self._title = title
 
-    @property
-    def keyboard(self):
-        """To be held in a `with` block by whoever does several things that belong together."""
-        return _keyboard
-
     def press(self, *keys):
-        with _keyboard:
+        with keyboard:
             self._take_the_keys()
             _xdotool("key", "--delay", "20", *keys)
 
     def go_to(self, address):
         """Types it where addresses are typed."""
-        with _keyboard:
+        with keyboard:
             self.press("ctrl+l")
             _xdotool("type", "--delay", "4", address)
             _xdotool("key", "Return")

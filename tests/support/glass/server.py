@@ -56,10 +56,11 @@ class Server:
         with self._changed:
             return self._changed.wait_for(done, seconds)
 
-    def forget(self, event):
-        """So that it can be waited for once more."""
+    def forget(self, event, address=None):
+        """So that it can be waited for once more, and the visit as well."""
         with self._changed:
             self._told.discard(event)
+            self.visited.discard(address)
 
     def turns(self, name):
         """How often "/turn/NAME" was asked for, of any host."""
