@@ -11,6 +11,7 @@ class Files;
 class FolderTree;
 class Identity;
 class LeftTraces;
+class Machine;
 class Notifications;
 class ProcessEnd;
 class ProfileFile;
@@ -26,6 +27,7 @@ class WindowCommands;
 
 struct Desktop {
   const Identity& identity;
+  const Machine& machine;
   const Clock& clock;
   SettingsBackend& settings;
   Registry& registry;

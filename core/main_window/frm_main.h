@@ -109,6 +109,8 @@ class frmMain {
   platform::Desktop desktop_;
   core::Handler handler_;
   core::SettingsStore settings_;
+  bool loaded_ = false;
+  bool unloading_ = false;
   // While it is clear a click on a cleaning option is not stored: the load itself is clicking.
   bool savingOptions_ = false;
   cleaner::OptionsHandlers options_;

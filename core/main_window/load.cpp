@@ -1,11 +1,13 @@
 // The window's load: every subsystem is brought into its start state, in a fixed order.
 #include <string>
 
+#include "core/machine_facts.h"
 #include "core/main_window/frm_main.h"
 #include "core/numbers.h"
 #include "core/shell_tray.h"
 #include "core/version_label.h"
 #include "platform/identity.h"
+#include "platform/machine.h"
 
 namespace zelvane::main_window {
 
@@ -19,6 +21,7 @@ void frmMain::show() {
 // A failing step ends the load: the steps after it are skipped, and their controls keep their
 // designed values.
 void frmMain::Form_Load() {
+  loaded_ = true;
   handler_([this] {
     readAlertSoundPath();
     showVersionLabel();
@@ -58,7 +61,10 @@ void frmMain::showMakersAddress() {
 
 void frmMain::installKeyboardHook() {}
 
-void frmMain::showMachineNames() {}
+void frmMain::showMachineNames() {
+  mainPage.lblUser.setCaption(core::userLine(desktop_.machine));
+  mainPage.lblOS.setCaption(core::OS::GetOSName(desktop_.machine));
+}
 
 void frmMain::loadPopupSwitch() { popupSwitch_.load(); }
 
@@ -91,7 +97,9 @@ void frmMain::addTrayIcon() {
 
 void frmMain::emptySchedulePickers() { scheduleSettings_.emptyPickers(); }
 
-void frmMain::showLocalAddress() {}
+void frmMain::showLocalAddress() {
+  mainPage.Label13.setCaption(desktop_.machine.localAddress().value_or(""));
+}
 
 void frmMain::loadStartupBox() {
   mainPage.chkStartup.setValue(

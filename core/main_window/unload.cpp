@@ -1,8 +1,10 @@
 // How the window goes, and the program with it.
 #include <string>
+#include <utility>
 
 #include "core/main_window/frm_main.h"
 #include "core/shell_tray.h"
+#include "core/startup_entry.h"
 #include "platform/process_end.h"
 #include "platform/tray.h"
 
@@ -26,7 +28,13 @@ void frmMain::Form_QueryUnload(bool& cancel, controls::UnloadMode mode) {
 
 // An error leaves the later steps undone, but the process ends all the same: with no window left
 // nobody could end it.
+//
+// A window that was never loaded, a second start's, knows none of the choices that it would store.
+// And one that is told to go once more, while it shows such an error, goes.
 void frmMain::Form_Unload() {
+  if (!loaded_ || std::exchange(unloading_, true)) {
+    endProcess();
+  }
   handler_([this] {
     saveStartupBox();
     applyStartupEntry();
@@ -36,6 +44,7 @@ void frmMain::Form_Unload() {
   endProcess();
 }
 
+// Ending is immediate, so this runs only where the process outlives its window.
 void frmMain::Form_Terminate() {
   handler_([this] { removeTrayIcon(); });
 }
@@ -45,7 +54,10 @@ void frmMain::saveStartupBox() {
                  std::to_string(mainPage.chkStartup.value()));
 }
 
-void frmMain::applyStartupEntry() {}
+void frmMain::applyStartupEntry() {
+  core::Registry::SetRunAtStartup(desktop_.registry, desktop_.identity,
+                                  mainPage.chkStartup.checked());
+}
 
 void frmMain::removeTrayIcon() { core::ShellTray::RemoveIcon(desktop_.tray, mainPage.form); }
 

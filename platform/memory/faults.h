@@ -31,8 +31,8 @@ namespace zelvane::platform {
 //   Clipboard        clear permissionDenied
 //   Programs         programFor nothing; start false
 //
-// The other ports, and `Registry::close`, have no failure to promise: Clock, Identity, Dialogs,
-// WindowCommands, EventPump, Sound, ProcessEnd, and SingleInstance, whose desktop says true where
+// The other ports, and `Registry::close`, have no failure to promise: Clock, Identity, Machine,
+// Dialogs, WindowCommands, EventPump, Sound, ProcessEnd, and SingleInstance, whose desktop says true where
 // it cannot tell. They are not wrapped.
 class Faults {
  public:

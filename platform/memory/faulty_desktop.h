@@ -42,6 +42,7 @@ struct FaultyDesktop {
   // They live as long as this desktop.
   Desktop ports() {
     return {.identity = memory.identity,
+            .machine = memory.machine,
             .clock = memory.clock,
             .settings = settings,
             .registry = registry,

@@ -11,6 +11,7 @@
 #include "platform/memory/memory_files.h"
 #include "platform/memory/memory_folder_tree.h"
 #include "platform/memory/memory_identity.h"
+#include "platform/memory/memory_machine.h"
 #include "platform/memory/memory_notifications.h"
 #include "platform/memory/memory_process_end.h"
 #include "platform/memory/memory_profile_file.h"
@@ -43,6 +44,7 @@ struct MemoryDesktop {
   MemoryDesktop() { fileSystem.addFile(identity.dataFolder() + "/wavpath.txt", "\r\n"); }
 
   MemoryIdentity identity;
+  MemoryMachine machine;
   MemoryClock clock;
   MemorySettings settings;
   MemoryRegistry registry;
@@ -67,6 +69,7 @@ struct MemoryDesktop {
   // They live as long as this desktop.
   Desktop ports() {
     return {.identity = identity,
+            .machine = machine,
             .clock = clock,
             .settings = settings,
             .registry = registry,

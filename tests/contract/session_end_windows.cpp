@@ -102,6 +102,7 @@ class SessionEndTest : public testing::Test {
  private:
   platform::Desktop ports() {
     return {.identity = desktop.identity,
+            .machine = desktop.machine,
             .clock = desktop.clock,
             .settings = desktop.settings,
             .registry = desktop.registry,

@@ -17,6 +17,7 @@
 #include "platform/memory/memory_clock.h"
 #include "platform/memory/memory_dialogs.h"
 #include "platform/memory/memory_event_pump.h"
+#include "platform/memory/memory_machine.h"
 #include "platform/memory/memory_notifications.h"
 #include "platform/memory/memory_process_end.h"
 #include "platform/memory/memory_programs.h"
@@ -52,6 +53,7 @@ class HeadlessDesktop {
   platform::LinuxFiles files;
   platform::LinuxRecycleBin recycleBin;
   platform::LinuxSingleInstance instance{environment};
+  platform::MemoryMachine machine;
   platform::MemoryClock clock;
   platform::MemoryClipboard clipboard;
   platform::MemoryDialogs dialogs;
@@ -66,6 +68,7 @@ class HeadlessDesktop {
 
   platform::Desktop ports() {
     return {.identity = identity,
+            .machine = machine,
             .clock = clock,
             .settings = settings,
             .registry = registry,

@@ -11,6 +11,7 @@
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_folder_tree.h"
 #include "platform/linux/linux_identity.h"
+#include "platform/linux/linux_machine.h"
 #include "platform/linux/linux_process_end.h"
 #include "platform/linux/linux_profile_file.h"
 #include "platform/linux/linux_programs.h"
@@ -46,6 +47,7 @@ struct LinuxDesktop {
 
   const platform::Environment environment = platform::Environment::ofProcess();
   platform::LinuxIdentity identity{environment};
+  platform::LinuxMachine machine;
   platform::LinuxClock clock;
   platform::LinuxSettings settings{environment};
   platform::LinuxRegistry hive{environment};
@@ -83,6 +85,7 @@ struct LinuxDesktop {
 
   platform::Desktop ports() {
     return {.identity = identity,
+            .machine = machine,
             .clock = clock,
             .settings = settings,
             .registry = registry,

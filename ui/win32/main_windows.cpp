@@ -21,6 +21,7 @@
 #include "platform/windows/windows_files.h"
 #include "platform/windows/windows_folder_tree.h"
 #include "platform/windows/windows_identity.h"
+#include "platform/windows/windows_machine.h"
 #include "platform/windows/windows_process_end.h"
 #include "platform/windows/windows_profile_file.h"
 #include "platform/windows/windows_programs.h"
@@ -55,6 +56,7 @@ struct WindowsDesktop {
 
   HWND owner = nullptr;
   platform::WindowsIdentity identity;
+  platform::WindowsMachine machine;
   platform::WindowsClock clock;
   platform::WindowsSettings settings;
   platform::WindowsRegistry systemRegistry;
@@ -105,6 +107,7 @@ struct WindowsDesktop {
 
   platform::Desktop ports() {
     return {.identity = identity,
+            .machine = machine,
             .clock = clock,
             .settings = settings,
             .registry = registry,

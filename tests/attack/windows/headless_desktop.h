@@ -9,6 +9,7 @@
 #include "platform/memory/memory_clock.h"
 #include "platform/memory/memory_dialogs.h"
 #include "platform/memory/memory_event_pump.h"
+#include "platform/memory/memory_machine.h"
 #include "platform/memory/memory_notifications.h"
 #include "platform/memory/memory_process_end.h"
 #include "platform/memory/memory_programs.h"
@@ -92,6 +93,7 @@ class HeadlessDesktop {
   platform::LiveFolders folders{plainFolders, jumpLists, {browserTraces}};
   platform::WindowsRecycleBin recycleBin{[] { return nullptr; }};
   platform::WindowsSingleInstance instance;
+  platform::MemoryMachine machine;
   platform::MemoryClock clock;
   platform::MemoryClipboard clipboard;
   platform::MemoryDialogs dialogs;
@@ -105,6 +107,7 @@ class HeadlessDesktop {
 
   platform::Desktop ports() {
     return {.identity = identity,
+            .machine = machine,
             .clock = clock,
             .settings = settings,
             .registry = registry,

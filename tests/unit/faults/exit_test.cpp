@@ -27,14 +27,19 @@ Facts expectedAfterExit(const Facts& before, const std::vector<Call>& failed) {
   facts["ended"] = "yes";
   if (didFail(failed, "SettingsBackend::save", "Options/StartUp")) {
     facts["box 00"] = boxFact("none", "Error: 61 - Disk full");
-  } else {
-    facts[storedFact("Options", "StartUp")] = "0";
-    facts["save 00"] = storedFact("Options", "StartUp") + " = 0";
+    return facts;
+  }
+  facts[storedFact("Options", "StartUp")] = "0";
+  facts["save 00"] = storedFact("Options", "StartUp") + " = 0";
+  const std::string list = inUserRoot(kRun);
+  if (!didFail(failed, "Registry::open", list) &&
+      !didFail(failed, "Registry::deleteValue", list + "\\Zelvane")) {
+    facts.erase("value " + list + "\\Zelvane");
   }
   return facts;
 }
 
-TEST(AnExitWithAFault, IsToldInOneBoxAndEndsTheProcessAndTouchesNothingElse) {
+TEST(AnExitWithAFault, EndsTheProcessAndTellsOfTheStoreAloneAndTouchesNothingElse) {
   whicheverCallFails(atTheExit, [](const ExitScript& script, const Facts& before) {
     EXPECT_EQ(differences(expectedAfterExit(before, script.failed()), script.facts()), Lines{});
   });

@@ -34,7 +34,8 @@ constexpr auto kValues = std::to_array<Name>({{kBrowserMain, "Start Page"},
                                               {kBrowserMain, "Disable Script DebuggerX"},
                                               {kAutoComplete, "AutoSuggest"},
                                               {kTypedUrls, "url1"},
-                                              {kRunMru, "a"}});
+                                              {kRunMru, "a"},
+                                              {kRun, "Zelvane"}});
 
 std::string stored(const std::string& application, const std::string& section,
                    const std::string& key) {

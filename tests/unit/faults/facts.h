@@ -15,6 +15,7 @@ inline constexpr auto kBrowserMain = R"(Software\Microsoft\Internet Explorer\Mai
 inline constexpr auto kTypedUrls = R"(Software\Microsoft\Internet Explorer\TypedURLs)";
 inline constexpr auto kAutoComplete =
     R"(Software\Microsoft\Windows\CurrentVersion\Explorer\AutoComplete)";
+inline constexpr auto kRun = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
 inline constexpr auto kRunMru = R"(Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU)";
 
 // The path of a key or a value as it is named in facts and in calls.

@@ -75,6 +75,9 @@ class Model {
     facts_["mnuShow.caption"] = "Zelvane v1.0";
     facts_["lblWebSite.caption"] = "https://www.zelvane.example/";
     facts_["Label9.caption"] = "https://www.zelvane.example/";
+    facts_["lblUser.caption"] = "User reading-room";
+    facts_["lblOS.caption"] = "Penguin Desktop 7";
+    facts_["Label13.caption"] = "192.0.2.17";
   }
 
   // On unless "0" is read, and turning it on is a click, which stores what it could not read.

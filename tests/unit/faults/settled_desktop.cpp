@@ -20,6 +20,7 @@ void settle(platform::MemoryDesktop& desktop) {
   desktop.settings.put("Schedule", "LastRunTime", "09:05:07");
   desktop.registry.put(Root::currentUser, kBrowserMain, "Start Page", "https://theirs.example/");
   desktop.registry.put(Root::currentUser, kAutoComplete, "AutoSuggest", "yes");
+  desktop.registry.put(Root::currentUser, kRun, "Zelvane", "/opt/zelvane/zelvane.exe");
   desktop.winIni.write("Extensions", "DVK", "somebody else's");
 }
 

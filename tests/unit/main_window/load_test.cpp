@@ -97,6 +97,28 @@ TEST_F(LoadTest, TheStoredHomePageIsPutBackAtEveryStart) {
             "https://mine.example/");
 }
 
+TEST_F(LoadTest, TheMachineIsShownByItsNameItsSystemAndItsAddress) {
+  desktop.machine.facts.computerName = "ATTIC-PC";
+  desktop.machine.facts.system = platform::SystemVersion{.kind = 2, .major = 5, .minor = 1};
+  desktop.machine.facts.localAddress = "192.168.7.31";
+
+  start();
+
+  EXPECT_EQ(window.mainPage.lblUser.caption(), "User ATTIC-PC");
+  EXPECT_EQ(window.mainPage.lblOS.caption(), "Windows 2000");
+  EXPECT_EQ(window.mainPage.Label12.caption(), "Your LAN IP address is:");
+  EXPECT_EQ(window.mainPage.Label13.caption(), "192.168.7.31");
+}
+
+TEST_F(LoadTest, WithoutANetworkTheAddressIsEmptyAndTheLoadGoesOn) {
+  desktop.machine.facts.localAddress = std::nullopt;
+
+  start();
+
+  EXPECT_EQ(window.mainPage.Label13.caption(), "");
+  EXPECT_EQ(window.mainPage.lblStatus.caption(), "Ready");
+}
+
 TEST_F(LoadTest, AStoredStartUpIsShownAndNothingIsWrittenUntilExit) {
   desktop.settings.put("Options", "StartUp", "1");
 
