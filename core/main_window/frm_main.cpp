@@ -23,7 +23,8 @@ frmMain::frmMain(const platform::Desktop& desktop)
       scheduleTimer_(schedulePage, settings_, desktop.clock, handler_,
                      [this] { run_.cmdBasicClean_Click(); }),
       popupSwitch_(popupPage, trayMenu.mnuPoupKiller, events_, settings_),
-      alertSound_(popupPage, desktop.files, desktop.dialogs, desktop.identity, handler_) {
+      alertSound_(popupPage, desktop.files, desktop.dialogs, desktop.identity, handler_),
+      about_(aboutPage, desktop.identity) {
   wire();
 }
 
@@ -38,6 +39,8 @@ void frmMain::wire() {
   mainPage.lblWebSite.clicked.connect([this] { lblWebSite_Click(); });
   popupPage.Label9.clicked.connect([this] { Label9_Click(); });
   wireTray();
+  trayMenu.mnuAbout.clicked.connect([this] { mnuAbout_Click(); });
+  fileSecurityPage.lblAbountVexmora.clicked.connect([this] { mnuAbout_Click(); });
 
   // A page whose subsystem is not built yet cannot be used; its controls' own states stay as they
   // are designed.
@@ -69,6 +72,10 @@ void frmMain::Label9_Click() {
 
 void frmMain::lblWebSite_Click() {
   about::GenFunc::OpenURL(desktop_, mainPage.lblWebSite.caption(), "htm");
+}
+
+void frmMain::mnuAbout_Click() {
+  handler_([this] { about_.show(); });
 }
 
 }  // namespace zelvane::main_window

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "about/about_page.h"
+#include "about/frm_about.h"
 #include "cleaner/cleaner_page.h"
 #include "cleaner/cleaning_run.h"
 #include "cleaner/home_page.h"
@@ -68,6 +69,7 @@ class frmMain {
   void cmdClose_Click();
   void Label9_Click();
   void lblWebSite_Click();
+  void mnuAbout_Click();
 
  private:
   // Where two subsystems meet, one line each.
@@ -121,6 +123,7 @@ class frmMain {
   popupkiller::Events events_;
   popupkiller::PopupSwitch popupSwitch_;
   popupkiller::AlertSound alertSound_;
+  about::frmAbout about_;
 };
 
 }  // namespace zelvane::main_window

@@ -16,7 +16,7 @@ class MemoryIdentity : public Identity {
                           .major = 1,
                           .minor = 0,
                           .companyName = "Zelvane",
-                          .legalText = "Copyright 2026 Zelvane",
+                          .legalText = "Copyright 2026",
                           .makerAddress = "https://www.zelvane.example/"};
     std::string programFolder = "/opt/zelvane";
     std::string executableName = "zelvane";

@@ -10,7 +10,7 @@ VersionRecord product() {
           .major = kVersionMajor,
           .minor = kVersionMinor,
           .companyName = "Zelvane",
-          .legalText = "Copyright 2026 Zelvane",
+          .legalText = "Copyright 2026",
           .makerAddress = "https://www.zelvane.example/"};
 }
 

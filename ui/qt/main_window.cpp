@@ -7,6 +7,7 @@
 #include <QVBoxLayout>
 #include <algorithm>
 
+#include "ui/qt/about_box.h"
 #include "ui/qt/clean_computer_tab.h"
 #include "ui/qt/clean_internet_tab.h"
 #include "ui/qt/file_security_tab.h"
@@ -78,6 +79,7 @@ MainWindow::MainWindow(main_window::frmMain& window, controls::OpenBoxes& boxes)
       }
     }
   }
+  new AboutBox(window.aboutPage, boxes, *this);
 }
 
 void MainWindow::layOut(main_window::frmMain& window) {

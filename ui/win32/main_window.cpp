@@ -52,7 +52,7 @@ bool isDown(int key) { return GetKeyState(key) < 0; }
 }  // namespace
 
 MainWindow::MainWindow(main_window::frmMain& window, controls::OpenBoxes& boxes, Look& look)
-    : FormWindow(window.mainPage.form, look) {
+    : FormWindow(window.mainPage.form, look), aboutBox_(window.aboutPage, boxes, *this) {
   layOutPages(window);
   const Faces faces = facesOfControls();
   nameByLabels(window, faces);

@@ -5,6 +5,7 @@
 
 #include "core/controls/open_boxes.h"
 #include "core/main_window/frm_main.h"
+#include "ui/win32/about_box.h"
 #include "ui/win32/mirror/form_window.h"
 
 namespace zelvane::win32 {
@@ -19,6 +20,8 @@ class MainWindow : public FormWindow {
   // Ctrl+Tab and Ctrl+Page Down turn to the next page, with Shift or Page Up to the one before.
   bool onKey(const MSG& message) override;
 
+  const AboutBox& aboutBox() const { return aboutBox_; }
+
  private:
   using Faces = std::map<const controls::Control*, Window*>;
 
@@ -31,6 +34,7 @@ class MainWindow : public FormWindow {
   void startTimers(main_window::frmMain& window, controls::OpenBoxes& boxes);
 
   TabStripWindow* tabs_ = nullptr;
+  AboutBox aboutBox_;
 };
 
 }  // namespace zelvane::win32

@@ -22,9 +22,17 @@ constexpr UINT_PTR kFinishTimer = 1;
 }  // namespace
 
 FormWindow::FormWindow(controls::Form& control, Look& look)
-    : Pane({kPaneClass, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT}, look),
-      control_(control),
-      ownLook_(look) {
+    : FormWindow(control, {kPaneClass, WS_OVERLAPPEDWINDOW | WS_CLIPCHILDREN, WS_EX_CONTROLPARENT},
+                 nullptr, look) {}
+
+FormWindow::FormWindow(controls::Form& control, HWND owner, Look& look)
+    : FormWindow(control,
+                 {kPaneClass, WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN,
+                  WS_EX_CONTROLPARENT | WS_EX_DLGMODALFRAME},
+                 owner, look) {}
+
+FormWindow::FormWindow(controls::Form& control, const Make& make, HWND owner, Look& look)
+    : Pane(make, owner, look), frame_(make), control_(control), ownLook_(look) {
   setControl(control);
   setBackground(COLOR_BTNFACE);
   adopt(GetDpiForWindow(handle()));
@@ -56,7 +64,7 @@ void FormWindow::fitTips() const {
 
 SIZE FormWindow::withBorder(Size inside) const {
   RECT frame{0, 0, inside.width, inside.height};
-  AdjustWindowRectExForDpi(&frame, WS_OVERLAPPEDWINDOW, FALSE, WS_EX_CONTROLPARENT, look().dpi());
+  AdjustWindowRectExForDpi(&frame, frame_.style, FALSE, frame_.extendedStyle, look().dpi());
   return {frame.right - frame.left, frame.bottom - frame.top};
 }
 
@@ -96,10 +104,15 @@ void FormWindow::followPointer(MSG& message) {
   }
 }
 
+void FormWindow::setBlocked(bool blocked) {
+  blocked_ = blocked;
+  EnableWindow(handle(), control_.enabled() && !blocked ? TRUE : FALSE);
+}
+
 // A window that is not seen keeps its state for when it is.
 void FormWindow::showControl() {
   setCaption(plainCaption(control_.caption()));
-  EnableWindow(handle(), control_.enabled() ? TRUE : FALSE);
+  EnableWindow(handle(), control_.enabled() && !blocked_ ? TRUE : FALSE);
   const bool minimised = control_.state() == controls::Form::State::minimised;
   if (!control_.visible()) {
     if (isShown()) {

@@ -17,6 +17,9 @@ class FormWindow : public Pane {
   FormWindow(controls::Form& control, Look& look);
   ~FormWindow() override;
 
+  // While it is blocked the user can do nothing in it, whatever the form says.
+  void setBlocked(bool blocked);
+
   // Gives the window the size of what it shows, in the middle of the screen, as far as that goes.
   void fit();
 
@@ -43,10 +46,15 @@ class FormWindow : public Pane {
   virtual bool onKey(const MSG& /*message*/) { return false; }
 
  protected:
+  // A box, with a frame that stays as it is. It stands before `owner`, or by itself where that is
+  // null.
+  FormWindow(controls::Form& control, HWND owner, Look& look);
+
   LRESULT onMessage(UINT message, WPARAM word, LPARAM value) override;
   bool isSettled() const override { return settled_; }
 
  private:
+  FormWindow(controls::Form& control, const Make& make, HWND owner, Look& look);
   void showControl();
   void onSize(WPARAM how);
   void onActivate(WPARAM how);
@@ -58,10 +66,12 @@ class FormWindow : public Pane {
   void adopt(UINT dpi);
   SIZE withBorder(Size inside) const;
 
+  const Make frame_;
   controls::Form& control_;
   Look& ownLook_;
   HWND tips_ = nullptr;
   HWND focused_ = nullptr;  // who had the keys when the window lost them
+  bool blocked_ = false;
   bool layoutAsked_ = false;
   bool settled_ = false;
   std::map<UINT, std::function<void(WPARAM, LPARAM)>> answers_;

@@ -10,8 +10,8 @@ Pane::Pane(Pane& parent, DWORD style, Making making)
     : Window({kPaneClass, WS_CHILD | WS_CLIPCHILDREN | style, WS_EX_CONTROLPARENT}, parent, making),
       body_(Box::Lie::column, Gap::large, look()) {}
 
-Pane::Pane(const Make& make, Look& look)
-    : Window(make, nullptr, look), body_(Box::Lie::column, Gap::large, look) {}
+Pane::Pane(const Make& make, HWND owner, Look& look)
+    : Window(make, owner, look), body_(Box::Lie::column, Gap::large, look) {}
 
 void Pane::makeAfter(const Window& first, const Window& after) {
   const auto at = [this](const Window& window) {

@@ -50,8 +50,8 @@ class Pane : public Window {
  protected:
   // Inside another one, and made later where `making` says so.
   Pane(Pane& parent, DWORD style, Making making);
-  // A window on its own.
-  Pane(const Make& make, Look& look);
+  // A window on its own, before `owner` if that is not null.
+  Pane(const Make& make, HWND owner, Look& look);
 
   void makeBelow() override;
   const std::vector<std::unique_ptr<Window>>& children() const { return children_; }

@@ -47,8 +47,8 @@ Window::Window(const Make& make, Window& above, Making making)
   }
 }
 
-Window::Window(const Make& make, HWND parent, Look& look) : make_(make), look_(look) {
-  makeHandle(parent);
+Window::Window(const Make& make, HWND owner, Look& look) : make_(make), look_(look) {
+  makeHandle(owner);
 }
 
 void Window::makeHandle(HWND parent) {

@@ -34,8 +34,8 @@ class Window {
   // A window in another one, which outlives it. It is made now, unless the one above is still to be
   // made itself: then it is made with that. Throws where the system refuses.
   Window(const Make& make, Window& above, Making making = Making::now);
-  // A window by itself, in none of ours. `look` outlives it.
-  Window(const Make& make, HWND parent, Look& look);
+  // A window by itself, in none of ours; before `owner`, if that is not null. `look` outlives it.
+  Window(const Make& make, HWND owner, Look& look);
   Window(const Window&) = delete;
   Window& operator=(const Window&) = delete;
   virtual ~Window();
