@@ -29,6 +29,7 @@ display       at-spi2-core        file:/usr/share/dbus-1/services/org.a11y.Bus.s
 display       gir1.2-atspi-2.0    lib:girepository-1.0/Atspi-2.0.typelib                the same, for scripts
 display       python3-gi          lib:python3*/*-packages/gi         the same, for Python
 build,display,check,bench,package python3  file:/usr/bin/python3     makes the sound; drives the window; counts the tests; packs
+display       desktop-file-utils  command:desktop-file-validate      judges the startup entry
 display       imagemagick         command:import                     takes screenshots
 display       procps              command:ps                         sees which programs run
 display       file                command:file                       says what a screenshot is

@@ -8,6 +8,7 @@
 #include <sys/random.h>
 #include <sys/stat.h>
 
+#include "platform/linux/folder_entries.h"
 #include "platform/linux/system_error.h"
 
 namespace zelvane::platform {
@@ -51,6 +52,14 @@ bool LinuxPendingFile::isHiddenName(std::string_view name) {
   name.remove_prefix(kHiddenPrefix.size());
   return name.size() == 2 * kRandomBytes &&
          name.find_first_not_of(kDigits) == std::string_view::npos;
+}
+
+void LinuxPendingFile::sweepAwayWhatKillsLeft(const Descriptor& folder) {
+  FolderReader().read(folder.get(), [&](std::span<const Entry> piece) {
+    for (const Entry& entry : piece) {
+      if (isHiddenName(entry.name)) unlinkat(folder.get(), entry.name.data(), 0);
+    }
+  });
 }
 
 LinuxPendingFile::LinuxPendingFile(Descriptor folder, std::string name, Kind kind)

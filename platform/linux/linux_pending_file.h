@@ -18,6 +18,9 @@ class LinuxPendingFile : public PendingFile {
   // Whether a file waits under such a name; after a kill just then it has it for good.
   static bool isHiddenName(std::string_view name);
 
+  // Deletes such files in a folder in which nobody is at work on one.
+  static void sweepAwayWhatKillsLeft(const Descriptor& folder);
+
   // In the open folder `folder`, to be published there as `name`. An unnamed file is what one
   // wants; a hidden one is made instead where the file system has no unnamed ones, or when asked
   // for.

@@ -9,7 +9,6 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
-#include "platform/linux/folder_entries.h"
 #include "platform/linux/folder_lock.h"
 #include "platform/linux/linux_pending_file.h"
 #include "platform/linux/private_folder.h"
@@ -46,17 +45,6 @@ bool renameWithoutReplacing(const Descriptor& folder, const std::string& from,
   if (isTaken(folder, to)) return false;
   if (renameat(folder.get(), from.c_str(), folder.get(), to.c_str()) != 0) throwSystemError();
   return true;
-}
-
-// To be called with the lock held: then nobody's unfinished file is among them.
-void sweepAwayWhatKilledWritersLeft(const Descriptor& folder) {
-  FolderReader().read(folder.get(), [&](std::span<const Entry> piece) {
-    for (const Entry& entry : piece) {
-      if (LinuxPendingFile::isHiddenName(entry.name)) {
-        unlinkat(folder.get(), entry.name.data(), 0);
-      }
-    }
-  });
 }
 
 // Does it; a failure's text begins with what it stopped.
@@ -130,7 +118,7 @@ void PrivateFile::update(const Change& change) {
     throw Error(ErrorNumber::accessError, "\"" + path() + "\" would be larger than 16 MiB.");
   }
   naming(refused, [&] {
-    sweepAwayWhatKilledWritersLeft(folder);
+    LinuxPendingFile::sweepAwayWhatKillsLeft(folder);  // under the lock nobody is at work on one
     LinuxPendingFile file(std::move(folder), name_);
     file.write(*text);
     file.publish();

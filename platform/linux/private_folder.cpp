@@ -9,9 +9,7 @@
 #include "platform/linux/system_error.h"
 
 namespace zelvane::platform {
-namespace {
-
-void makeFolders(const std::string& path) {
+void makeMissingFolders(const std::string& path) {
   for (std::size_t slash = path.find('/', 1);; slash = path.find('/', slash + 1)) {
     const std::string folder = path.substr(0, slash);
     // One that is there already, in whatever form, is judged when it is opened.
@@ -21,8 +19,6 @@ void makeFolders(const std::string& path) {
     if (slash == std::string::npos) return;
   }
 }
-
-}  // namespace
 
 Descriptor openPrivateFolder(const std::string& path) {
   Descriptor folder(open(kernelPath(path), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
@@ -54,7 +50,7 @@ Descriptor makePrivateFolder(const std::string& path) {
   } catch (const Error& error) {
     if (error.number() != ErrorNumber::pathNotFound) throw;
   }
-  makeFolders(path);
+  makeMissingFolders(path);
   return openPrivateFolder(path);
 }
 

@@ -16,4 +16,7 @@ Descriptor openPrivateFolder(const std::string& path);
 // The same, but makes it, and those above it, where they are missing (0700 all of them).
 Descriptor makePrivateFolder(const std::string& path);
 
+// Makes the folder, and those above it, where they are missing (0700 all of them).
+void makeMissingFolders(const std::string& path);
+
 }  // namespace zelvane::platform

@@ -32,8 +32,8 @@ namespace zelvane::platform {
 //   Programs         programFor nothing; start false
 //
 // The other ports, and `Registry::close`, have no failure to promise: Clock, Identity, Machine,
-// Dialogs, WindowCommands, EventPump, Sound, ProcessEnd, and SingleInstance, whose desktop says true where
-// it cannot tell. They are not wrapped.
+// Dialogs, WindowCommands, EventPump, Sound, ProcessEnd, and SingleInstance, whose desktop says
+// true where it cannot tell. They are not wrapped.
 class Faults {
  public:
   struct Call {

@@ -48,6 +48,7 @@ OF_WINDOWS = {
     "COMCTL32.dll",  # tabs, lists, pickers
     "comdlg32.dll",  # the file dialogs
     "GDI32.dll",     # fonts, drawing
+    "IPHLPAPI.DLL",  # the local address
     "KERNEL32.dll",  # files, processes
     "msvcrt.dll",    # C's own library, the one that Windows brings
     "ntdll.dll",     # opening within a folder

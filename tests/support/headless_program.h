@@ -1,11 +1,14 @@
 // The whole program without a window, on a disk that may be thrown away.
 #pragma once
 
+#include "core/startup_entry.h"
 #include "platform/left_traces.h"
+#include "platform/linux/autostart_entry.h"
 #include "platform/linux/data_folder.h"
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_folder_tree.h"
 #include "platform/linux/linux_identity.h"
+#include "platform/linux/linux_ledger.h"
 #include "platform/linux/linux_profile_file.h"
 #include "platform/linux/linux_recycle_bin.h"
 #include "platform/linux/linux_registry.h"
@@ -25,6 +28,7 @@
 #include "platform/memory/memory_tray.h"
 #include "platform/memory/memory_window.h"
 #include "platform/shared/live_folders.h"
+#include "platform/shared/mirrored_value.h"
 #include "tests/support/program_without_window.h"
 #include "tests/support/throw_away_environment.h"
 
@@ -44,7 +48,14 @@ class HeadlessDesktop {
   const platform::Environment environment;
   platform::LinuxIdentity identity{environment};
   platform::LinuxSettings settings{environment};
-  platform::LinuxRegistry registry{environment};
+  platform::LinuxRegistry hive{environment};
+  platform::Ledger ledger = platform::linuxLedger(environment);
+  platform::AutostartEntry autostart{environment, identity, ledger};
+  platform::MirroredValue registry{hive,
+                                   {.path = core::Registry::kRunKey,
+                                    .name = identity.version().title,
+                                    .beforeSet = [this] { autostart.write(); },
+                                    .afterDelete = [this] { autostart.erase(); }}};
   platform::LinuxProfileFile winIni{environment};
   platform::LinuxSpecialFolders plainFolders;
   platform::LinuxFolderTree plainTree{{}, plainFolders};

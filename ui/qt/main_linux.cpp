@@ -3,7 +3,9 @@
 #include "core/controls/open_boxes.h"
 #include "core/main_window/frm_main.h"
 #include "core/main_window/startup.h"
+#include "core/startup_entry.h"
 #include "platform/desktop.h"
+#include "platform/linux/autostart_entry.h"
 #include "platform/linux/data_folder.h"
 #include "platform/linux/environment.h"
 #include "platform/linux/linux_browser_desktop.h"
@@ -11,6 +13,7 @@
 #include "platform/linux/linux_files.h"
 #include "platform/linux/linux_folder_tree.h"
 #include "platform/linux/linux_identity.h"
+#include "platform/linux/linux_ledger.h"
 #include "platform/linux/linux_machine.h"
 #include "platform/linux/linux_process_end.h"
 #include "platform/linux/linux_profile_file.h"
@@ -29,7 +32,9 @@
 #include "platform/shared/browsers/live_browser_values.h"
 #include "platform/shared/live_folders.h"
 #include "platform/shared/live_registry.h"
+#include "platform/shared/mirrored_value.h"
 #include "ui/qt/application.h"
+#include "ui/qt/ending_signals.h"
 #include "ui/qt/main_window.h"
 #include "ui/qt/qt_clipboard.h"
 #include "ui/qt/qt_dialogs.h"
@@ -51,6 +56,13 @@ struct LinuxDesktop {
   platform::LinuxClock clock;
   platform::LinuxSettings settings{environment};
   platform::LinuxRegistry hive{environment};
+  platform::Ledger ledger = platform::linuxLedger(environment);
+  platform::AutostartEntry autostart{environment, identity, ledger};
+  platform::MirroredValue startupList{hive,
+                                      {.path = core::Registry::kRunKey,
+                                       .name = identity.version().title,
+                                       .beforeSet = [this] { autostart.write(); },
+                                       .afterDelete = [this] { autostart.erase(); }}};
   platform::LinuxProfileFile winIni{environment};
   platform::LinuxSpecialFolders plainFolders{environment};
   platform::LinuxFolderTree plainTree{{}, plainFolders};
@@ -65,7 +77,7 @@ struct LinuxDesktop {
   platform::BrowserSettings browserSettings{browsers, files, formerPages, notifications};
   platform::RunHistory runHistory{environment, files};
   platform::LiveRegistry registry{
-      hive,
+      startupList,
       {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
         [this] { browserTraces.eraseTyped(); }},
        {R"(Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU)",
@@ -120,7 +132,9 @@ int run(char** arguments) {
   desktop.dialogs.attach(shell);
   desktop.window.attach(shell);
   desktop.tray.attach(shell, shell.trayMenu());
-  application.whenToldToQuit([&] { window.mainPage.form.unload(controls::UnloadMode::windows); });
+  const auto quit = [&] { window.mainPage.form.unload(controls::UnloadMode::windows); };
+  application.whenToldToQuit(quit);
+  const qt::EndingSignals endingSignals(quit);
 
   platform::refillDataFolder(desktop.identity.dataFolder());
   main_window::GenFunc::Main(ports, window);

@@ -6,6 +6,7 @@
 #include "core/controls/open_boxes.h"
 #include "core/main_window/frm_main.h"
 #include "core/main_window/startup.h"
+#include "core/startup_entry.h"
 #include "platform/desktop.h"
 #include "platform/left_traces.h"
 #include "platform/shared/browsers/browser_settings.h"
@@ -15,12 +16,14 @@
 #include "platform/shared/jump_list_tree.h"
 #include "platform/shared/live_folders.h"
 #include "platform/shared/live_registry.h"
+#include "platform/shared/mirrored_value.h"
 #include "platform/windows/explorer_history.h"
 #include "platform/windows/windows_browser_desktop.h"
 #include "platform/windows/windows_clock.h"
 #include "platform/windows/windows_files.h"
 #include "platform/windows/windows_folder_tree.h"
 #include "platform/windows/windows_identity.h"
+#include "platform/windows/windows_ledger.h"
 #include "platform/windows/windows_machine.h"
 #include "platform/windows/windows_process_end.h"
 #include "platform/windows/windows_profile_file.h"
@@ -60,6 +63,11 @@ struct WindowsDesktop {
   platform::WindowsClock clock;
   platform::WindowsSettings settings;
   platform::WindowsRegistry systemRegistry;
+  platform::Ledger ledger =
+      platform::windowsLedger(platform::foldersOfUser()["roaming"] + "\\Zelvane");
+  platform::MirroredValue startupList{
+      systemRegistry,
+      platform::notedValue(ledger, core::Registry::kRunKey, identity.version().title)};
   platform::WindowsProfileFile winIni;
   platform::WindowsSpecialFolders plainFolders{platform::systemFolders([this] { return owner; })};
   platform::WindowsFolderTree plainTree;
@@ -74,7 +82,7 @@ struct WindowsDesktop {
   platform::BrowserSettings browserSettings{browsers, files, formerPages, notifications};
   platform::ExplorerHistory explorer{systemRegistry};
   platform::LiveRegistry registry{
-      systemRegistry,
+      startupList,
       {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
         [this] {
           explorer.eraseTyped();
@@ -83,15 +91,6 @@ struct WindowsDesktop {
        {R"(Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU)",
         [this] { explorer.eraseRun(); }}},
       platform::liveBrowserValues(browserSettings, platform::LiveRegistry::Answers::asWritten)};
-  platform::LiveFolders folders{plainFolders, plainTree, {browserTraces}};
-  platform::LiveRegistry registry{systemRegistry,
-                                  {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
-                                    [this] {
-                                      explorer.eraseTyped();
-                                      browserTraces.eraseTyped();
-                                    }},
-                                   {R"(Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU)",
-                                    [this] { explorer.eraseRun(); }}}};
   platform::JumpListTree jumpLists{plainFolders, plainTree, files};
   platform::LiveFolders folders{plainFolders, jumpLists, {browserTraces}};
   platform::WindowsRecycleBin recycleBin{[this] { return owner; }};

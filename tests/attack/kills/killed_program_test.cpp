@@ -21,6 +21,8 @@ using Texts = std::vector<std::string>;
 
 constexpr const char* kStores = "home/.config/zelvane/";
 constexpr const char* kTrash = "home/.local/share/Trash/";
+constexpr const char* kLedger = "home/.config/zelvane/ledger.txt";
+constexpr const char* kAutostart = "home/.config/autostart/zelvane.desktop";
 constexpr const char* kList = "home/.local/share/recently-used.xbel";
 
 using Step = std::function<void(HeadlessProgram&)>;
@@ -161,11 +163,13 @@ class KilledProgram : public testing::Test {
     return moment ? tracer(folder).runUntil(*moment, steps) : tracer(folder).run(steps);
   }
 
-  // Between two states of the stores, and with nothing in the trash that cannot be put back.
+  // Between two states of the stores, with nothing in the trash that cannot be put back, and
+  // nothing outside the program's own folders that is not noted.
   void expectBetween(const ThrowAwayFolder& folder, const StoredValues& before,
                      const StoredValues& after) const {
     EXPECT_EQ(neitherBeforeNorAfter(storedIn(folder), before, after), Texts{});
     EXPECT_EQ(filesWithoutNote(folder), Texts{});
+    EXPECT_TRUE(folder.has(kLedger) || !folder.has(kAutostart));
   }
 
   // The next start, and all that follows, is as if nobody had been killed.

@@ -18,7 +18,8 @@ StoredValues storedIn(const ThrowAwayFolder& folder) {
     }
   }
   for (const std::string file :
-       {"home/.config/zelvane/win.ini", "home/.local/share/recently-used.xbel"}) {
+       {"home/.config/zelvane/win.ini", "home/.config/zelvane/ledger.txt",
+        "home/.config/autostart/zelvane.desktop", "home/.local/share/recently-used.xbel"}) {
     if (folder.has(file)) values[file] = folder.read(file);
   }
   return values;

@@ -6,7 +6,7 @@ namespace {
 // Libraries for what is seen and heard: windows, drawing, controls, sounds. What their dialogs
 // remember between two questions is the system's own affair.
 constexpr std::string_view kLibraries = R"(
-    COMCTL32.dll comdlg32.dll GDI32.dll ole32.dll USER32.dll VERSION.dll WINMM.dll
+    COMCTL32.dll comdlg32.dll GDI32.dll IPHLPAPI.DLL ole32.dll USER32.dll VERSION.dll WINMM.dll
 )";
 
 // Reading, and syncs. The one that acquires keys is asked for random numbers alone.
@@ -31,8 +31,9 @@ constexpr std::string_view kOfSystem = R"(
     DeleteCriticalSection DuplicateHandle EnterCriticalSection FileTimeToSystemTime FindClose
     FindFirstFileA FindFirstFileW FindFirstVolumeW FindNextFileA FindNextFileW FindNextVolumeW
     FindResourceW FindVolumeClose FlushFileBuffers FlushViewOfFile FormatMessageA FormatMessageW
-    FreeLibrary GetCommandLineA GetCommandLineW GetCurrentProcess GetCurrentProcessId
-    GetCurrentThread GetCurrentThreadId GetDiskFreeSpaceA GetDiskFreeSpaceExW GetDiskFreeSpaceW
+    FreeLibrary GetCommandLineA GetCommandLineW GetComputerNameW GetCurrentProcess
+    GetCurrentProcessId GetCurrentThread GetCurrentThreadId GetDiskFreeSpaceA
+    GetDiskFreeSpaceExW GetDiskFreeSpaceW
     GetExitCodeProcess GetFileAttributesA GetFileAttributesExA GetFileAttributesExW
     GetFileAttributesW GetFileInformationByHandle GetFileInformationByHandleEx GetFileSize
     GetFileSizeEx GetFileType GetFinalPathNameByHandleW GetFullPathNameA GetFullPathNameW
@@ -55,7 +56,8 @@ constexpr std::string_view kOfSystem = R"(
     SuspendThread SystemTimeToFileTime SystemTimeToTzSpecificLocalTime TerminateProcess TlsAlloc
     TlsGetValue TlsSetValue TryEnterCriticalSection UnlockFile UnlockFileEx UnmapViewOfFile
     VirtualProtect VirtualQuery WaitForMultipleObjects WaitForSingleObject WaitForSingleObjectEx
-    WideCharToMultiByte __C_specific_handler NtQueryInformationFile RtlNtStatusToDosError
+    WideCharToMultiByte __C_specific_handler NtQueryInformationFile RtlGetVersion
+    RtlNtStatusToDosError
 )";
 
 // The C library, which writes to nothing but what it has opened.

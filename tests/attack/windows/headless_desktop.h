@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <string>
 
+#include "core/startup_entry.h"
 #include "platform/left_traces.h"
 #include "platform/memory/memory_clipboard.h"
 #include "platform/memory/memory_clock.h"
@@ -20,11 +21,13 @@
 #include "platform/shared/jump_list_tree.h"
 #include "platform/shared/live_folders.h"
 #include "platform/shared/live_registry.h"
+#include "platform/shared/mirrored_value.h"
 #include "platform/windows/explorer_history.h"
 #include "platform/windows/windows_browser_desktop.h"
 #include "platform/windows/windows_files.h"
 #include "platform/windows/windows_folder_tree.h"
 #include "platform/windows/windows_identity.h"
+#include "platform/windows/windows_ledger.h"
 #include "platform/windows/windows_profile_file.h"
 #include "platform/windows/windows_recycle_bin.h"
 #include "platform/windows/windows_registry.h"
@@ -61,16 +64,22 @@ class HeadlessDesktop {
       : identity(world),
         settings(settingsIn(world)),
         systemRegistry(world.key),
+        ledger(platform::windowsLedger(ledgerIn(world))),
         winIni(world.folder + "\\win.ini"),
         plainFolders(foldersIn(world.folder)),
         browsers(browsersIn(world.folder)),
         instance(nameOf(world)) {}
 
   static std::string settingsIn(const World& world) { return world.key + "\\Settings"; }
+  static std::string ledgerIn(const World& world) { return world.folder + "\\own"; }
 
   IdentityIn identity;
   platform::WindowsSettings settings;
   platform::WindowsRegistry systemRegistry;
+  platform::Ledger ledger;
+  platform::MirroredValue startupList{
+      systemRegistry,
+      platform::notedValue(ledger, core::Registry::kRunKey, identity.version().title)};
   platform::WindowsProfileFile winIni;
   platform::WindowsSpecialFolders plainFolders;
   platform::WindowsFolderTree plainTree;
@@ -81,7 +90,7 @@ class HeadlessDesktop {
   platform::LeftTraces leftTraces;
   platform::BrowserTraces browserTraces{browsers, wholeTree, files, leftTraces};
   platform::ExplorerHistory explorer{systemRegistry};
-  platform::LiveRegistry registry{systemRegistry,
+  platform::LiveRegistry registry{startupList,
                                   {{R"(Software\Microsoft\Internet Explorer\TypedURLs)",
                                     [this] {
                                       explorer.eraseTyped();

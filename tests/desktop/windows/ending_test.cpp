@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include "platform/windows/whole_file.h"
 #include "tests/desktop/windows/desktop_test.h"
 #include "tests/desktop/windows/waiting.h"
 #include "tests/support/windows/disk.h"
@@ -11,7 +12,16 @@
 namespace zelvane::test {
 namespace {
 
-using Ending = DesktopTest;
+class Ending : public DesktopTest {
+ protected:
+  static std::optional<std::string> startupEntry() {
+    return userText(ThrowAwayWorld::kRun, "Zelvane");
+  }
+
+  std::optional<std::string> ledger() const {
+    return platform::readWholeFile(world.roaming() + R"(\Zelvane\ledger.txt)");
+  }
+};
 
 TEST_F(Ending, TheCloseBoxMinimisesAndTheProgramLives) {
   const RunningProgram program(world);
@@ -42,6 +52,66 @@ TEST_F(Ending, AMinimisedWindowComesBackAsItWas) {
   EXPECT_EQ(program.endStatus(), EXIT_SUCCESS);
 }
 
+TEST_F(Ending, TheExitWritesTheStartupEntryAndNotesIt) {
+  const RunningProgram program(world);
+  const ProgramWindow window = program.window();
+  window.control("chkStartup").tick();
+  EXPECT_EQ(startupEntry(), std::nullopt);
+
+  window.pressExit();
+
+  EXPECT_EQ(program.endStatus(), EXIT_SUCCESS);
+  ASSERT_TRUE(startupEntry().has_value());
+  EXPECT_TRUE(isThere(*startupEntry())) << *startupEntry();
+  EXPECT_TRUE(startupEntry()->ends_with(R"(\Zelvane.exe)")) << *startupEntry();
+  EXPECT_EQ(ledger(), std::string("Zelvane ledger 1\nvalue HKEY_CURRENT_USER\\") +
+                          ThrowAwayWorld::kRun + "\\Zelvane\n");
+}
+
+TEST_F(Ending, TheExitWithAnUntickedBoxDeletesTheStartupEntry) {
+  storeText("Options", "StartUp", "1");
+  setUserText(ThrowAwayWorld::kRun, "Zelvane", "old");
+  setUserText(ThrowAwayWorld::kRun, "Other", "theirs");
+  const RunningProgram program(world);
+  const ProgramWindow window = program.window();
+  window.control("chkStartup").tick(false);
+  EXPECT_EQ(startupEntry(), "old");
+
+  window.pressExit();
+
+  EXPECT_EQ(program.endStatus(), EXIT_SUCCESS);
+  EXPECT_EQ(startupEntry(), std::nullopt);
+  EXPECT_EQ(userText(ThrowAwayWorld::kRun, "Other"), "theirs");
+  EXPECT_EQ(storedText("Options", "StartUp"), "0");
+}
+
+TEST_F(Ending, KilledItWritesNoStartupEntryAndKeepsTheFormerChoice) {
+  storeText("Options", "StartUp", "0");
+  const RunningProgram program(world);
+  program.window().control("chkStartup").tick();
+
+  program.kill();
+
+  EXPECT_EQ(startupEntry(), std::nullopt);
+  EXPECT_EQ(storedText("Options", "StartUp"), "0");
+}
+
+// The second program has its window, unseen, when it tells that it may not show it.
+TEST_F(Ending, ASecondStartThatTheEndOfTheSessionMeetsStoresNothing) {
+  storeText("Options", "StartUp", "1");
+  setUserText(ThrowAwayWorld::kRun, "Zelvane", "first's");
+  const RunningProgram first(world);
+  const ProgramWindow window = first.window();
+  const RunningProgram second(world);
+  const HWND unseen = second.message().owner();
+
+  PostMessageW(unseen, WM_ENDSESSION, TRUE, 0);
+
+  EXPECT_EQ(second.endStatus(), EXIT_SUCCESS);
+  EXPECT_EQ(storedText("Options", "StartUp"), "1");
+  EXPECT_EQ(startupEntry(), "first's");
+}
+
 TEST_F(Ending, TheEndOfTheSessionStoresAndEnds) {
   const RunningProgram program(world);
   const ProgramWindow window = program.window();
@@ -54,6 +124,7 @@ TEST_F(Ending, TheEndOfTheSessionStoresAndEnds) {
 
   EXPECT_EQ(program.endStatus(), EXIT_SUCCESS);
   EXPECT_EQ(storedText("Options", "StartUp"), "1");
+  EXPECT_TRUE(startupEntry().has_value());
 }
 
 TEST_F(Ending, ASessionThatGoesOnAfterAllChangesNothing) {

@@ -24,6 +24,9 @@ class MessageBox {
   std::string title() const;
   std::string text() const;
 
+  // The window before which it stands, which need not be seen.
+  HWND owner() const { return GetWindow(window_, GW_OWNER); }
+
   // Presses its one button, and waits until the box is gone.
   void accept() const;
 

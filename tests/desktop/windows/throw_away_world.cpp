@@ -51,19 +51,21 @@ ThrowAwayFolder newFolder() {
 }  // namespace
 
 ThrowAwayWorld::ThrowAwayWorld() : folder_(newFolder()) {
-  for (const char* path : {kZelvane, kBrowser, kTypedAddresses, kRunHistory, kAutoComplete,
+  for (const char* path : {kZelvane, kBrowser, kTypedAddresses, kRunHistory, kAutoComplete, kRun,
                            kFolderNames, kAskedFolders}) {
     kept_.emplace_back(path);
   }
   RegistryTree keyWithoutValues;
   keyWithoutValues[std::wstring()];
   for (const char* path : {kZelvane, kTypedAddresses, kRunHistory}) replaceKeys(path, std::nullopt);
-  for (const char* path : {kBrowser, kAutoComplete}) replaceKeys(path, keyWithoutValues);
+  for (const char* path : {kBrowser, kAutoComplete, kRun}) replaceKeys(path, keyWithoutValues);
   setProfileEntry(std::nullopt);
   for (const auto& [name, path] : specialFolders()) {
     makeFolders(path);
     nameFolder(name, path);
   }
+  makeFolders(roaming());
+  nameFolder("AppData", roaming());
   makeFolders(temporary());
   makeFolders(folder_ / "home/.local/share");
   // The trash is that of the Unix below.

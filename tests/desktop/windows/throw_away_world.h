@@ -33,6 +33,7 @@ class ThrowAwayWorld {
       R"(Software\Microsoft\Windows\CurrentVersion\Explorer\RunMRU)";
   static constexpr auto kAutoComplete =
       R"(Software\Microsoft\Windows\CurrentVersion\Explorer\AutoComplete)";
+  static constexpr auto kRun = R"(Software\Microsoft\Windows\CurrentVersion\Run)";
   static constexpr auto kZelvane = R"(Software\Zelvane)";
 
   std::string documents() const { return folder_ / "Documents"; }
@@ -41,6 +42,8 @@ class ThrowAwayWorld {
   std::string cache() const { return folder_ / "Cache"; }
   std::string cookies() const { return folder_ / "Cookies"; }
   std::string history() const { return folder_ / "History"; }
+  // The user's folder for what programs keep, which moves with the user.
+  std::string roaming() const { return folder_ / "Roaming"; }
   std::string temporary() const { return folder_ / "Temp"; }
   std::string trash() const { return folder_ / "home/.local/share/Trash"; }
   // Any other place: nobody asked to erase it, and it goes with this object.
