@@ -12,13 +12,13 @@ import sys
 
 sys.dont_write_bytecode = True
 ROOT = pathlib.Path(__file__).resolve().parents[1]
-sys.path[:0] = [str(ROOT / "tests" / "support"), str(ROOT / "tests" / "browsers")]
+sys.path.insert(0, str(ROOT / "tests" / "support"))
 
 from desktop import checks  # noqa: E402
 from desktop.virtual_desktop import VirtualDesktop  # noqa: E402
 from glass.browsers import Chromium, UsualFirefox  # noqa: E402
 from glass.tokens import CACHE, COOKIES, FORMS, HISTORY, KEEP, TYPED  # noqa: E402
-from travels import OPTIONS, Travels  # noqa: E402
+from glass.travels import OPTIONS, Travels  # noqa: E402
 
 ROWS = (HISTORY, TYPED, FORMS, COOKIES, CACHE, KEEP)
 _FIREFOX_CLEARS = """

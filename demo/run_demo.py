@@ -1,7 +1,7 @@
 #!/usr/bin/python3
 """Shows Zelvane at work on a desktop, in a home made for the occasion, and checks the outcome.
 
-    run_demo.py --program PATH [--keep] [--screenshot FILE]
+    run_demo.py --program PATH [--browsers | --no-browsers] [--keep] [--screenshot FILE]
 
 Nothing of the machine's user is read or written. The exit status is 0 if everything held.
 """
@@ -15,6 +15,7 @@ import tempfile
 sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tests" / "support"))
 
+import browsers
 from desktop import hive, private_mounts
 from desktop.virtual_desktop import Missing, VirtualDesktop
 from report import BLACK, BLUE, GREEN, Report, lines_of, role_of
@@ -30,6 +31,8 @@ def main():
     try:
         with VirtualDesktop(keep=options.keep) as desktop:
             show(desktop, options, report)
+            if wants_browsers(options, report):
+                browsers.show(desktop, options.program, report)
             if options.keep:
                 report.say(f"Kept: {desktop.place}")
     except Missing as reason:
@@ -45,6 +48,8 @@ def read_options():
     parser.add_argument("--keep", action="store_true", help="leave the made-up home behind")
     parser.add_argument("--screenshot", type=pathlib.Path, metavar="FILE",
                         help="where the picture of the window goes (a PNG)")
+    parser.add_argument("--browsers", action=argparse.BooleanOptionalAction,
+                        help="with real browsers, too; without a word on it, if they are installed")
     options = parser.parse_args()
     if not os.access(options.program, os.X_OK):
         parser.error(f"there is no program {options.program}")
@@ -55,6 +60,15 @@ def read_options():
         options.screenshot = pathlib.Path(name)
     options.screenshot = options.screenshot.resolve()
     return options
+
+
+def wants_browsers(options, report):
+    lacking = browsers.missing()
+    if options.browsers and lacking:
+        report.check("The browsers and their libraries are installed", False, " ".join(lacking))
+    elif options.browsers is None and lacking:
+        report.say("Without browsers, as not installed: " + " ".join(lacking))
+    return options.browsers is not False and not lacking
 
 
 def show(desktop, options, report):

@@ -15,8 +15,8 @@ from glass.browsers import Chromium, MovedFirefox, SecondChromium, UsualFirefox
 from glass.finder import listing
 from glass.server import Answer
 from glass.tokens import CACHE, COOKIES, FORMS, HISTORY, KEEP, TYPED
+from glass.travels import OPTIONS, Travels
 from notices import Notices
-from travels import OPTIONS, Travels
 
 ERASED = (HISTORY, CACHE, COOKIES, TYPED, FORMS)
 KEPT = {"bookmark", "bookmarktitle", "bookmarkhost", "bookmarkicondots", "passwordhost",

@@ -6,14 +6,15 @@ import json
 
 from support import checks
 
-from desktop import hive
+from desktop import settings
 from desktop.program import Program
 from desktop.waiting import wait_until
-from glass.browsers import Chromium, Firefox
+from glass.browsers import Chromium, UsualFirefox
 from glass.server import Answer, Server
 from glass.tokens import Manifest
 
 HOST = "127.0.0.1"
+LONG = 60  # seconds, for a browser to start and to show a page
 _numbers = itertools.count(1)
 
 
@@ -25,22 +26,23 @@ class House:
         # Chromium puts a socket into the home's temporary folder, whose path may not be long.
         self.home = bed.desktop.new_home(f"page{next(_numbers)}")
         self.server = server
-        self.browsers = [kind(bed.desktop, self.home, server, Manifest(), "default")
-                         for kind in kinds]
+        self.browsers = [kind(bed.desktop, self.home, server, Manifest()) for kind in kinds]
         for browser in self.browsers:
-            self.use(browser)
+            self.use(browser, "first", self.page("first"))
+            browser.list_profiles(self.home)
 
     def page(self, name):
-        """The address of a page that says its name."""
-        return self.server.serve(f"{HOST}", f"/{name}", Answer(f"<title>{name}</title>{name}"))
+        """The address of a page that tells when it is shown, and by whom."""
+        return self.server.serve(HOST, f"/{name}", Answer(f"""<title>{name}</title>{name}<script>
+            const browser = navigator.userAgent.includes("Firefox") ? "firefox" : "chromium"
+            onload = () => requestAnimationFrame(() => fetch("/told/{name}-" + browser))
+            </script>"""))
 
-    def use(self, browser, opens=None):
-        """Starts it without an address, as from a menu, until it has opened that one."""
-        browser.start_as_from_menu()
+    def use(self, browser, shows, address=None):
+        """Starts it, without an address as from a menu, until it shows that page; ends it."""
+        browser.start(address)
         try:
-            if opens is not None:
-                wait_until(lambda: opens in self.server.visited,
-                           f"{browser.name} opens {opens}; so far: {self.server.visited}", 30)
+            self.server.wait_for(f"{shows}-{browser.name}", LONG)
             browser.close()
         except AssertionError:
             browser.kill()  # its window would be in the way of the next test
@@ -59,8 +61,9 @@ class House:
             self.bed.desktop.type(address)
             wait_until(lambda: window.home_page.text() == address, "the address is typed")
             window.press("Set Home Page")
-            wait_until(lambda: hive.texts(self.home, hive.BROWSER)["Start Page"] == address,
-                       "the address is written")
+            # Stored last, when the browsers have it.
+            wait_until(lambda: settings.stored(self.home, "HomePage", "StartPage") == address,
+                       "the address is stored")
 
     def start_program(self):
         with self.program() as program:
@@ -69,27 +72,25 @@ class House:
 
 def each_browser_opens_the_page_that_was_set(bed):
     with Server() as server:
-        house = House(bed, server, Firefox, Chromium)
-        for number, browser in enumerate(house.browsers):
-            address = house.page(f"mine{number}")
-            house.choose(address)
+        house = House(bed, server, UsualFirefox, Chromium)
+        house.choose(house.page("mine"))
 
-            house.use(browser, opens=address)
+        for browser in house.browsers:
+            house.use(browser, "mine")
 
 
 def an_address_without_its_protocol_is_opened_too(bed):
     with Server() as server:
-        house = House(bed, server, Firefox, Chromium)
-        for number, browser in enumerate(house.browsers):
-            address = house.page(f"short{number}")
-            house.choose(address.removeprefix("http://"))
+        house = House(bed, server, UsualFirefox, Chromium)
+        house.choose(house.page("short").removeprefix("http://"))
 
-            house.use(browser, opens=address)
+        for browser in house.browsers:
+            house.use(browser, "short")
 
 
 def a_page_that_slipped_in_is_gone_at_the_next_start_of_both(bed):
     with Server() as server:
-        house = House(bed, server, Firefox, Chromium)
+        house = House(bed, server, UsualFirefox, Chromium)
         mine, theirs = house.page("mine"), house.page("theirs")
         house.choose(mine)
         firefox, chromium = house.browsers
@@ -101,14 +102,13 @@ def a_page_that_slipped_in_is_gone_at_the_next_start_of_both(bed):
         house.start_program()
 
         for browser in house.browsers:
-            server.visited.clear()
-            house.use(browser, opens=mine)
+            house.use(browser, "mine")
             assert theirs not in server.visited, f"{browser.name} opened {theirs}"
 
 
 def what_they_started_with_before_is_noted(bed):
     with Server() as server:
-        house = House(bed, server, Firefox, Chromium)
+        house = House(bed, server, UsualFirefox, Chromium)
 
         house.start_program()
 

@@ -4,8 +4,9 @@ import pathlib
 import sys
 
 sys.dont_write_bytecode = True
-sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "support"))
+ROOT = pathlib.Path(__file__).resolve().parents[2]
+sys.path.insert(0, str(ROOT / "tests" / "support"))
 
 from desktop import checks
 
-__all__ = ["checks"]
+__all__ = ["ROOT", "checks"]

@@ -132,8 +132,7 @@ TEST_F(AutostartEntryTest, AFileOfThatNameThatIsSomebodyElsesIsNeitherReplacedNo
 }
 
 TEST_F(AutostartEntryTest, TheMarkCountsAsAWholeLineAlone) {
-  folder.write(kEntry,
-               std::string(kTheirs) + "# X-Zelvane-Entry=startup\nX-Zelvane-Entry=startups\n");
+  folder.write(kEntry, "# X-Zelvane-Entry=startup\nX-Zelvane-Entry=startups\n");
 
   EXPECT_EQ(refusal(), ErrorNumber::fileExists);
 }

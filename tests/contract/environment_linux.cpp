@@ -90,7 +90,8 @@ std::string listInProcessWith(const Variables& variables,
   ChildProcess child([&](const Say& say) {
     clearenv();
     for (const auto& [name, value] : variables) setenv(name, value, 1);
-    for (const std::string& entry : Environment::ofProcess().*list) say(entry);
+    const Environment environment = Environment::ofProcess();
+    for (const std::string& entry : environment.*list) say(entry);
   });
   return child.hearAll();
 }

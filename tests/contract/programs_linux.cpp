@@ -28,6 +28,10 @@ constexpr int kPatience = 60'000;  // milliseconds
 class Place {
  public:
   Place() {
+    environment.configDirs = {folder / "system/etc"};
+    environment.dataDirs = {folder / "system/share", folder / "other/share"};
+    environment.programDirs = {folder / "bin"};
+    environment.desktops = {"ubuntu", "gnome"};
     mkfifo((folder / "ear").c_str(), S_IRUSR | S_IWUSR);
     ear_ = platform::Descriptor(open((folder / "ear").c_str(), O_RDWR | O_CLOEXEC));
   }
@@ -71,14 +75,7 @@ class Place {
   }
 
   const ThrowAwayFolder folder;
-  platform::Environment environment = [this] {
-    platform::Environment environment = environmentIn(folder);
-    environment.configDirs = {folder / "system/etc"};
-    environment.dataDirs = {folder / "system/share", folder / "other/share"};
-    environment.programDirs = {folder / "bin"};
-    environment.desktops = {"ubuntu", "gnome"};
-    return environment;
-  }();
+  platform::Environment environment = environmentIn(folder);
 
  private:
   platform::Descriptor ear_;

@@ -45,7 +45,8 @@ TEST_P(TrayContract, AnAddedIconIsSeenWithItsTip) {
 }
 
 TEST_P(TrayContract, ATipThatFillsItsFieldIsSeenWhole) {
-  const std::string tip = std::string(60, 'x') + "\u00e9\u00e9";
+  std::string tip(60, 'x');
+  tip.append("\u00e9\u00e9");
 
   bed->tray().add(record(tip));
 

@@ -158,6 +158,7 @@ class Firefox(Browser):
     }
 
     def start(self, address="about:blank"):
+        """Without an address, as from a menu, it opens what it is set to."""
         listening = self.folder / "MarionetteActivePort"
         self.folder.mkdir(parents=True, exist_ok=True)
         listening.unlink(missing_ok=True)
@@ -167,7 +168,7 @@ class Firefox(Browser):
         with self._log() as log, hands.keyboard:  # a new window takes the keys from any other
             self._process = processes.start(
                 ["firefox-esr", "--profile", str(self.folder), "--no-remote", "--marionette",
-                 "--remote-allow-system-access", address],
+                 "--remote-allow-system-access", *([address] if address else [])],
                 env=self._desktop.environment(self.home), cwd=self.home.home,
                 stdin=subprocess.DEVNULL, stdout=log, stderr=log, start_new_session=True)
             self.orders = wait_until(lambda: Marionette(int(listening.read_text())),
@@ -257,7 +258,7 @@ class Chromium(Browser):
                  "--password-store=basic", f"--load-extension={self.extension.folder}",
                  "--disable-features=DisableLoadExtensionCommandLineSwitch",
                  "--window-size=1000,800", "--window-position=0,0",
-                 "--host-resolver-rules=MAP * 127.0.0.1", address],
+                 "--host-resolver-rules=MAP * 127.0.0.1", *([address] if address else [])],
                 env=self._desktop.environment(self.home), cwd=self.home.home, stdout=log, stderr=log)
         self._process = self.orders.process
         self._hands = Hands(self._process.pid, self.title)
