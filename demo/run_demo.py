@@ -16,6 +16,7 @@ sys.dont_write_bytecode = True
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[1] / "tests" / "support"))
 
 import browsers
+import resident
 from desktop import hive, private_mounts
 from desktop.virtual_desktop import Missing, VirtualDesktop
 from report import BLACK, BLUE, GREEN, Report, lines_of, role_of
@@ -31,6 +32,7 @@ def main():
     try:
         with VirtualDesktop(keep=options.keep) as desktop:
             show(desktop, options, report)
+            resident.show(desktop, options.program, report)
             if wants_browsers(options, report):
                 browsers.show(desktop, options.program, report)
             if options.keep:

@@ -60,6 +60,7 @@ void ScheduleSettings::emptyPickers() {
   page_.dtpScheduleTime.setValue(now);
   page_.dtpScheduleDate.setValue(std::nullopt);
   page_.dtpScheduleTime.setValue(std::nullopt);
+  markApplied();
 }
 
 void ScheduleSettings::load() {

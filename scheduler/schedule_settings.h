@@ -18,7 +18,8 @@ class ScheduleSettings {
   ScheduleSettings(SchedulePage& page, core::SettingsStore& settings,
                    const platform::Desktop& desktop, const core::Handler& handler);
 
-  // The pickers show the present date and time and hold none.
+  // The pickers show the present date and time and hold none. The page is applied then: should the
+  // start come to nothing before `load`, no edits may be left that refuse every run.
   void emptyPickers();
 
   // Shows what is stored, or "Daily" where no schedule was ever applied. It leaves the page edited.

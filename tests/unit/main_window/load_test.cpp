@@ -210,6 +210,15 @@ TEST_P(SpoiltStartUpTest, EndsTheLoadWithItsErrorAndTheLaterStepsAreSkipped) {
   EXPECT_TRUE(window.mainPage.form.visible());
 }
 
+TEST_P(SpoiltStartUpTest, LeavesNoEditsOfTheScheduleThatWouldRefuseARun) {
+  desktop.settings.put("Options", "StartUp", GetParam().stored);
+  start();
+
+  window.cleanerPage.cmdBasicClean.click();
+
+  EXPECT_TRUE(window.cleanerPage.rtfMessage.text().ends_with("\r\nDone"));
+}
+
 INSTANTIATE_TEST_SUITE_P(EachKind, SpoiltStartUpTest,
                          testing::Values(SpoiltNumber{"abc", "Error: 13 - Type mismatch"},
                                          SpoiltNumber{"", "Error: 13 - Type mismatch"},
