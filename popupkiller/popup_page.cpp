@@ -7,6 +7,8 @@ PopupPage::PopupPage() {
   vindows.placeIn(Frame1);
   Command1.placeIn(Frame1);
   Label14.placeIn(Frame1);
+  Frame1.setDescription(
+      "Windows that a page opens by itself are stopped, and a sound tells of it.");
   vindows.setDescription("The browser windows that are open.");
 }
 

@@ -60,7 +60,7 @@ std::string entryValue(std::string_view text) {
 
 std::string execValue(std::string_view path) {
   const std::string program = quoted(path);
-  if (path.find('=') == std::string_view::npos) return entryValue(program);
+  if (path.find_first_of("=%") == std::string_view::npos) return entryValue(program);
   return entryValue(quoted("/bin/sh") + " -c " + quoted("exec \"$0\"") + " " + program);
 }
 

@@ -14,8 +14,9 @@ std::string entryValue(std::string_view text);
 
 // The value of "Exec" that starts the program of that path, whatever is in it. Each argument is in
 // double quotes, with a backslash before `"`, "`", "$" and "\", and "%" doubled; then it is written
-// as a value. A path with "=", which may not stand first, is handed to /bin/sh as what to become.
-// Throws like `entryValue`.
+// as a value. Two characters may not stand in what is named first: "=" by the format's own word,
+// and "%" because some desktops look for the program before they have made one of two. A path with
+// one of them is handed to /bin/sh, which becomes that program. Throws like `entryValue`.
 std::string execValue(std::string_view path);
 
 }  // namespace zelvane::platform

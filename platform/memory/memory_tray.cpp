@@ -47,7 +47,7 @@ bool MemoryTray::remove(const NotificationRecord& record) {
 }
 
 void MemoryTray::showMenu(const std::string& menuName) {
-  if (known_.contains(menuName)) {
+  if (known_.empty() || known_.contains(menuName)) {
     menus_.push_back(menuName);
   }
 }

@@ -14,8 +14,8 @@ namespace zelvane::platform {
 
 class MemoryTray : public Tray {
  public:
-  // On a window with these menus.
-  explicit MemoryTray(std::set<std::string> menus = {"mnuQuorvex"}) : known_(std::move(menus)) {}
+  // On a window with these menus; without a word on it, with every menu that is asked for.
+  explicit MemoryTray(std::set<std::string> menus = {}) : known_(std::move(menus)) {}
 
   // Each name that is asked for has a handle of its own.
   std::uint32_t windowHandle(const std::string& formName) const override;

@@ -65,12 +65,12 @@ TEST_F(AutostartEntryTest, OfAProgramAtTheRootHasOneSeparator) {
 }
 
 TEST_F(AutostartEntryTest, OfAnOddFolderIsQuoted) {
-  identity.facts.programFolder = "/home/ada/\"my\" $tools\\100%";
+  identity.facts.programFolder = "/home/ada/\"my\" $tools\\";
 
   entry.write();
 
-  EXPECT_EQ(line("Exec"), R"(Exec="/home/ada/\\"my\\" \\$tools\\\\100%%/zelvane")");
-  EXPECT_EQ(line("TryExec"), R"(TryExec=/home/ada/"my" $tools\\100%/zelvane)");
+  EXPECT_EQ(line("Exec"), R"(Exec="/home/ada/\\"my\\" \\$tools\\\\/zelvane")");
+  EXPECT_EQ(line("TryExec"), R"(TryExec=/home/ada/"my" $tools\\/zelvane)");
 }
 
 TEST_F(AutostartEntryTest, IsPrivateAndSoIsTheFolderThatIsMadeForIt) {

@@ -21,8 +21,9 @@ TEST(DesktopEntryText, WhatMeansSomethingInQuotesIsProtectedAndThatOnceMore) {
   EXPECT_EQ(execValue(R"(/a\b)"), R"("/a\\\\b")");
 }
 
-TEST(DesktopEntryText, APercentSignIsNoFieldCode) {
-  EXPECT_EQ(execValue("/100%u"), R"("/100%%u")");
+// Desktops look for the program that stands first before they have made one sign of two.
+TEST(DesktopEntryText, APercentSignIsNoFieldCodeAndDoesNotStandFirst) {
+  EXPECT_EQ(execValue("/100%u"), R"("/bin/sh" -c "exec \\"\\$0\\"" "/100%%u")");
 }
 
 TEST(DesktopEntryText, ALineBreakInAPathStartsNoLineOfItsOwn) {

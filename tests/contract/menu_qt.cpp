@@ -1,7 +1,6 @@
 // A menu and its items follow their controls.
 #include <QAction>
 #include <QCoreApplication>
-#include <QWidget>
 #include <string>
 #include <vector>
 
@@ -23,8 +22,7 @@ class QtMenuTest : public testing::Test {
   controls::MenuItem second{page, "mnuSecond", "Second", controls::MenuItem::Kind::markable};
   controls::MenuItem line{page, "mnuLine", "-"};
   controls::Menu control{page, "mnuAll", "All", {&first, &second, &line}};
-  QWidget window;
-  qt::MenuWidget widget{control, window};
+  qt::MenuWidget widget{control};
 };
 
 TEST_F(QtMenuTest, TheItemsStandInTheirOrder) {
@@ -35,6 +33,7 @@ TEST_F(QtMenuTest, TheItemsStandInTheirOrder) {
 
   EXPECT_EQ(names, (std::vector<std::string>{"mnuFirst", "mnuSecond", "mnuLine"}));
   EXPECT_TRUE(action(line).isSeparator());
+  EXPECT_EQ(action(line).text(), "");
   EXPECT_EQ(widget.objectName(), "mnuAll");
 }
 

@@ -44,6 +44,7 @@ class NotifierPanel::Service : public QDBusVirtualObject {
   }
 
   bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override {
+    qDebug() << message;
     if (message.member() == "RegisterStatusNotifierItem") {
       const QString item = message.arguments().value(0).toString();
       items_.push_back(item.startsWith('/') ? message.service() : item);

@@ -134,10 +134,22 @@ TEST_F(QtShellTest, AHiddenWindowComesBackNormal) {
   EXPECT_FALSE(shell.isMinimized());
 }
 
+TEST_F(QtShellTest, AHiddenWindowWhoseIconIsLostIsShownMinimised) {
+  shell.close();
+
+  desktop.tray.takePlaceAway();
+
+  EXPECT_TRUE(shell.isVisible());
+  EXPECT_TRUE(shell.isMinimized());
+}
+
 TEST_F(QtShellTest, WithoutAPlaceForTheIconTheCloseBoxMinimisesAndTheProgramLives) {
   desktop.tray.takePlaceAway();
 
   shell.close();
+  QCoreApplication::processEvents();
+
+  EXPECT_TRUE(shell.isMinimized());
 
   EXPECT_EQ(window.mainPage.form.state(), controls::Form::State::minimised);
   EXPECT_TRUE(window.mainPage.form.visible());
@@ -146,6 +158,7 @@ TEST_F(QtShellTest, WithoutAPlaceForTheIconTheCloseBoxMinimisesAndTheProgramLive
 
 TEST_F(QtShellTest, AMinimisedWindowThatTheUserRestoresIsNormalAgain) {
   window.mainPage.form.setState(controls::Form::State::minimised);
+  QCoreApplication::processEvents();
   EXPECT_TRUE(shell.isMinimized());
 
   shell.showNormal();

@@ -81,7 +81,7 @@ class QtTrayBed : public TrayBed {
   qt::PictureWidget picture_{picOther_, 32, window_};
   controls::MenuItem mnuFirst_{page_, "mnuFirst", "First"};
   controls::Menu mnuMain_{page_, "mnuMain", "Menu", {&mnuFirst_}};
-  qt::MenuWidget menu_{mnuMain_, window_};
+  qt::MenuWidget menu_{mnuMain_};
   qt::QtTray tray_;
   int turns_ = 0;
 };

@@ -6,7 +6,7 @@
 
 #include <xcb/xcb.h>
 
-#include "ui/qt/x11.h"
+#include "ui/qt/mirror/x11.h"
 
 namespace zelvane::qt {
 

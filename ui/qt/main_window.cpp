@@ -65,8 +65,7 @@ bool isTabStop(const QWidget& widget) {
 }  // namespace
 
 MainWindow::MainWindow(main_window::frmMain& window, controls::OpenBoxes& boxes)
-    : FormWidget(window.mainPage.form, nullptr, Qt::Window),
-      trayMenu_(*new MenuWidget(window.trayMenu.mnuQuorvex, *this)) {
+    : FormWidget(window.mainPage.form, nullptr, Qt::Window), trayMenu_(window.trayMenu.mnuQuorvex) {
   setWindowIcon(icon(controls::Picture::Image::programIcon));
   layOut(window);
   const Widgets widgets = widgetsByName();

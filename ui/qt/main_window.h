@@ -28,7 +28,7 @@ class MainWindow : public FormWidget {
   void nameByLabels(main_window::frmMain& window, const Widgets& widgets);
   void orderTabKeys(main_window::frmMain& window, const Widgets& widgets);
 
-  MenuWidget& trayMenu_;
+  MenuWidget trayMenu_;
 };
 
 }  // namespace zelvane::qt

@@ -5,7 +5,7 @@
 
 #include <xcb/xcb.h>
 
-#include "ui/qt/x11.h"
+#include "ui/qt/mirror/x11.h"
 
 namespace zelvane::qt {
 

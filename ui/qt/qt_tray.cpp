@@ -156,9 +156,8 @@ void QtTray::report(QSystemTrayIcon::ActivationReason reason) const {
 }
 
 void QtTray::showMenu(const std::string& menuName) {
-  if (auto* menu =
-          window_ ? window_->findChild<QMenu*>(QString::fromStdString(menuName)) : nullptr) {
-    menu->popup(QCursor::pos());
+  if (menu_ && menu_->objectName() == QString::fromStdString(menuName)) {
+    menu_->popup(QCursor::pos());
   }
 }
 

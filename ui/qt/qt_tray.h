@@ -20,7 +20,8 @@ namespace zelvane::qt {
 // that first use waits until there is a panel. From then on a panel may go and come back.
 class QtTray : public platform::Tray {
  public:
-  // From then on the icon belongs to this window, and the panels that draw menus draw `menu`.
+  // From then on the icon belongs to this window, and `menu` is one that can be shown; panels that
+  // draw menus draw that.
   void attach(QWidget& window, QMenu& menu);
 
   std::uint32_t windowHandle(const std::string& formName) const override;

@@ -11,7 +11,7 @@ from desktop.tray_host import TrayHost
 from desktop.waiting import wait_until
 from desktop.window import TITLE
 
-MENU = [(TITLE, None), ("Activate Popup Killer", False), ("About", None), ("-", None),
+MENU = [(TITLE, None), ("Activate Popup Killer", True), ("About", None), ("-", None),
         ("Exit", None)]
 GROWTH = 2 << 20  # bytes that are none
 

@@ -66,7 +66,8 @@ def without_a_browser_it_says_so(bed):
         assert message.title == "Browser Not Found"
         assert message.text == "Could not find associated application"
         message.press("OK")
-    assert "temphtm.htm" not in os.listdir(bed.home.temporary)
+        wait_until(lambda: "temphtm.htm" not in os.listdir(bed.home.temporary),
+                   "the page that was made for the question is gone")
 
 
 checks.run(

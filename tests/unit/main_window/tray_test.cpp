@@ -90,6 +90,8 @@ TEST_F(LoadedTrayTest, TheCloseBoxHidesTheWindowAndTheIconStays) {
 }
 
 TEST_F(LoadedTrayTest, TheCloseBoxIsCancelledSoThatNothingIsSaved) {
+  desktop.settings.forgetSaves();
+
   EXPECT_FALSE(window.mainPage.form.unload(UnloadMode::controlMenu));
 
   EXPECT_TRUE(desktop.settings.saves().empty());
@@ -259,10 +261,11 @@ TEST_F(LoadedTrayTest, TheMenusExitPassesAsAnUnloadByTheProgram) {
 
 TEST_F(LoadedTrayTest, EveryUnloadRemovesTheIcon) {
   for (const UnloadMode mode : {UnloadMode::code, UnloadMode::windows, UnloadMode::taskManager}) {
-    window.Form_Load();
+    frmMain one(desktop.ports());
+    one.Form_Load();
     ASSERT_NE(desktop.tray.tip(), std::nullopt);
 
-    EXPECT_THROW(window.mainPage.form.unload(mode), platform::ProcessEnded);
+    EXPECT_THROW(one.mainPage.form.unload(mode), platform::ProcessEnded);
 
     EXPECT_EQ(desktop.tray.tip(), std::nullopt);
   }

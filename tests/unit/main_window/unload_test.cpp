@@ -84,6 +84,7 @@ TEST_F(UnloadTest, AStoreThatRefusesLeavesTheStartupEntryAsItWas) {
 TEST_F(UnloadTest, AWindowThatWasNeverLoadedStoresNothingWhenItIsToldToGo) {
   desktop.settings.put("Options", "StartUp", "1");
   desktop.registry.put(Root::currentUser, core::Registry::kRunKey, "Zelvane", "theirs");
+  desktop.settings.forgetSaves();
   frmMain second(desktop.ports());
 
   EXPECT_THROW(second.mainPage.form.unload(UnloadMode::windows), platform::ProcessEnded);
@@ -103,9 +104,9 @@ TEST_F(UnloadTest, ToldAgainWhileItsErrorIsShownTheProgramEndsAtOnce) {
 
 TEST_F(UnloadTest, EveryOtherUnloadPassesAndRunsInFull) {
   for (const UnloadMode mode : {UnloadMode::code, UnloadMode::windows, UnloadMode::taskManager}) {
-    desktop.settings.forgetSaves();
     frmMain one(desktop.ports());
     GenFunc::Main(desktop.ports(), one);
+    desktop.settings.forgetSaves();
     one.mainPage.chkStartup.setValue(1);
 
     EXPECT_THROW(one.mainPage.form.unload(mode), platform::ProcessEnded);

@@ -1,10 +1,13 @@
 #include "ui/qt/mirror/form_widget.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QHideEvent>
 #include <QShowEvent>
+#include <QWindow>
 
 #include "ui/qt/mirror/follow.h"
+#include "ui/qt/mirror/x11.h"
 
 namespace zelvane::qt {
 
@@ -19,13 +22,36 @@ void FormWidget::showControl() {
   setWindowTitle(caption);
   setAccessibleName(caption);
   setEnabled(control_.enabled());
-  const bool minimised = control_.state() == controls::Form::State::minimised;
-  if (minimised != isMinimized()) {
+  if (!control_.visible()) {
+    if (!isHidden()) {
+      hide();
+    }
+  } else if (isHidden()) {
+    showState();
+    show();
+  } else if (!isToBeMinimised()) {
+    showState();
+  } else {
+    QMetaObject::invokeMethod(
+        this, [this] { showState(); }, Qt::QueuedConnection);
+  }
+}
+
+bool FormWidget::isToBeMinimised() const {
+  return control_.state() == controls::Form::State::minimised;
+}
+
+void FormWidget::showState() {
+  if (control_.visible() && isToBeMinimised() != isMinimized()) {
     setWindowState(windowState() ^ Qt::WindowMinimized);
   }
-  if (control_.visible() == isHidden()) {
-    setVisible(control_.visible());
+}
+
+void FormWidget::setVisible(bool visible) {
+  if (visible && !isMinimized() && windowHandle() != nullptr) {
+    wishToStartNormal(static_cast<std::uint32_t>(windowHandle()->winId()));
   }
+  QMainWindow::setVisible(visible);
 }
 
 bool FormWidget::event(QEvent* event) {
@@ -52,6 +78,15 @@ void FormWidget::showEvent(QShowEvent* event) {
   QMainWindow::showEvent(event);
   if (!event->spontaneous()) {
     control_.setVisible(true);
+    keepActive();
+  }
+}
+
+// A window that is hidden and shown within a tenth of a second has the desktop's keys all the time,
+// as far as the toolkit knows; its widgets have forgotten that they are active.
+void FormWidget::keepActive() {
+  if (!isActiveWindow() && QGuiApplication::focusWindow() == windowHandle()) {
+    QApplication::setActiveWindow(this);
   }
 }
 

@@ -14,6 +14,10 @@ class FormWidget : public QMainWindow {
  public:
   FormWidget(controls::Form& control, QWidget* parent, Qt::WindowFlags flags);
 
+  // The toolkit tells the display when it minimises a window, so that it stays so when it is shown
+  // anew, and does not when somebody else restores it meanwhile.
+  void setVisible(bool visible) override;
+
  protected:
   bool event(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -22,7 +26,13 @@ class FormWidget : public QMainWindow {
   void hideEvent(QHideEvent* event) override;
 
  private:
+  // A window that is minimised and then hidden in one go is only hidden: it is minimised when the
+  // program has said all. The desktop's late answer to the first would meet a window that is shown
+  // again, and minimise it.
   void showControl();
+  void showState();
+  void keepActive();
+  bool isToBeMinimised() const;
 
   controls::Form& control_;
 };

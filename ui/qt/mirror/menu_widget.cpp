@@ -6,7 +6,7 @@
 
 namespace zelvane::qt {
 
-MenuWidget::MenuWidget(controls::Menu& control, QWidget& parent) : QMenu(&parent) {
+MenuWidget::MenuWidget(controls::Menu& control) {
   setObjectName(QString::fromStdString(control.name()));
   setAccessibleName(plainCaption(control.caption()));
   for (controls::MenuItem* item : control.items()) {
@@ -21,7 +21,7 @@ void MenuWidget::mirror(controls::MenuItem& item) {
   action->setSeparator(item.separator());
   action->setCheckable(item.markable());
   follow(item, *action, [&item, action] {
-    action->setText(QString::fromStdString(item.caption()));
+    action->setText(item.separator() ? QString() : QString::fromStdString(item.caption()));
     action->setEnabled(item.enabled());
     action->setVisible(item.visible());
     action->setChecked(item.checked());

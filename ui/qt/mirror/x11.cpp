@@ -1,4 +1,4 @@
-#include "ui/qt/x11.h"
+#include "ui/qt/mirror/x11.h"
 
 #include <QGuiApplication>
 #include <cstdlib>
@@ -43,6 +43,27 @@ std::uint32_t ownerOf(xcb_connection_t& connection, std::uint32_t selection) {
   const std::unique_ptr<xcb_get_selection_owner_reply_t, Free> reply(
       xcb_get_selection_owner_reply(&connection, cookie, nullptr));
   return reply ? reply->owner : std::uint32_t{XCB_NONE};
+}
+
+// Of the nine numbers of a window's hints the first says which others are meant.
+void wishToStartNormal(std::uint32_t window) {
+  constexpr std::uint32_t kNumbers = 9;
+  constexpr int kInitialState = 2;
+  constexpr std::uint32_t kNormal = 1;
+  xcb_connection_t* connection = x11Connection();
+  if (connection == nullptr) {
+    return;
+  }
+  const auto cookie =
+      xcb_get_property(connection, 0, window, XCB_ATOM_WM_HINTS, XCB_ATOM_WM_HINTS, 0, kNumbers);
+  const std::unique_ptr<xcb_get_property_reply_t, Free> reply(
+      xcb_get_property_reply(connection, cookie, nullptr));
+  if (reply && reply->value_len == kNumbers) {
+    auto* hints = static_cast<std::uint32_t*>(xcb_get_property_value(reply.get()));
+    hints[kInitialState] = kNormal;
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_HINTS,
+                        XCB_ATOM_WM_HINTS, 32, kNumbers, hints);
+  }
 }
 
 }  // namespace zelvane::qt

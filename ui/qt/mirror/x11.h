@@ -1,4 +1,4 @@
-// The few questions to the X server that the toolkit does not ask for us.
+// The few things of the X server that the toolkit does not do for us.
 #pragma once
 
 #include <cstdint>
@@ -19,5 +19,8 @@ std::uint32_t atomOf(xcb_connection_t& connection, const std::string& name);
 
 // The window that owns a selection; 0 for none.
 std::uint32_t ownerOf(xcb_connection_t& connection, std::uint32_t selection);
+
+// Takes back a window's wish to be minimised when it is shown next; without X11, nothing happens.
+void wishToStartNormal(std::uint32_t window);
 
 }  // namespace zelvane::qt

@@ -1,0 +1,170 @@
+#!/usr/bin/python3
+"""The icon in the notification area, as a panel shows it that embeds the windows of programs."""
+
+import subprocess
+
+from support import checks
+
+from desktop import processes
+from desktop.accessible import wait_for
+from desktop.waiting import PATIENCE, wait_until
+from desktop.window import TITLE
+
+LEFT, MIDDLE, RIGHT = "1", "2", "3"
+
+
+class EmbeddingPanel:
+    """A real one, in the upper right corner."""
+
+    def __init__(self):
+        self._process = None
+
+    def __enter__(self):
+        self.start()
+        return self
+
+    def __exit__(self, *reason):
+        self.stop()
+
+    def start(self):
+        self._process = processes.start(
+            ["trayer", "--edge", "top", "--align", "right", "--widthtype", "request",
+             "--height", "24"],
+            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+
+    def stop(self):
+        processes.end(self._process)
+
+
+def the_icon_is_there(bed):
+    with EmbeddingPanel(), bed.start() as program:
+        program.window()
+
+        icon_of(program)
+
+
+def a_double_click_brings_the_hidden_window_back(bed):
+    with EmbeddingPanel(), bed.start() as program:
+        window = program.window()
+        hide(window, program)
+
+        click(program, LEFT, times=2)
+
+        wait_until(lambda: window.is_on_screen, "the window is back on the screen")
+
+
+def other_clicks_do_nothing(bed):
+    with EmbeddingPanel(), bed.start() as program:
+        window = program.window()
+        hide(window, program)
+
+        click(program, LEFT)
+        click(program, MIDDLE)
+
+        click(program, RIGHT)  # what it does is seen after what the others would have done
+        wait_for(program.menu_items, "the menu is open")
+        assert not window.is_on_screen
+
+
+def the_right_button_opens_the_menu(bed):
+    with EmbeddingPanel(), bed.start() as program:
+        window = program.window()
+        hide(window, program)
+
+        click(program, RIGHT)
+
+        wait_for(program.menu_items, "the menu is open")
+        names = [item.name for item in program.menu_items() if item.name]
+        assert names == [TITLE, "Activate Popup Killer", "About", "Exit"], names
+
+
+def the_menus_first_item_brings_the_hidden_window_back(bed):
+    with EmbeddingPanel(), bed.start() as program:
+        window = program.window()
+        hide(window, program)
+
+        choose(program, TITLE)
+
+        wait_until(lambda: window.is_on_screen, "the window is back on the screen")
+
+
+def the_menus_exit_ends_the_program(bed):
+    with EmbeddingPanel(), bed.start() as program:
+        hide(program.window(), program)
+
+        choose(program, "Exit")
+
+        assert program.end_status() == 0
+
+
+def a_panel_that_goes_and_comes_back_has_the_icon_again(bed):
+    with EmbeddingPanel() as panel, bed.start() as program:
+        window = program.window()
+        for _ in range(5):
+            hide(window, program)
+
+            panel.stop()
+            wait_until(lambda: not icons_of(program), "the icon is gone")
+            window.come_forward()
+            wait_until(lambda: window.is_on_screen, "the window is within reach")
+
+            panel.start()
+            icon_of(program)
+
+
+def a_panel_that_comes_later_gets_the_icon(bed):
+    with bed.start() as program:
+        window = program.window()
+
+        with EmbeddingPanel():
+            hide(window, program)
+            click(program, LEFT, times=2)
+            wait_until(lambda: window.is_on_screen, "the window is back on the screen")
+
+
+def icons_of(program):
+    """The little windows of the program that are seen."""
+    return [number for number in told("search", "--onlyvisible", "--pid", str(program.pid)).split()
+            if told("getwindowname", number).strip() == "zelvane"]
+
+
+def told(*question):
+    return subprocess.run(["xdotool", *question], capture_output=True, text=True,
+                          timeout=PATIENCE).stdout
+
+
+def icon_of(program):
+    wait_until(lambda: len(icons_of(program)) == 1, "the panel shows one icon")
+    return icons_of(program)[0]
+
+
+def hide(window, program):
+    icon_of(program)
+    window.close()
+
+
+def click(program, button, times=1):
+    subprocess.run(["xdotool", "mousemove", "--window", icon_of(program), "11", "11",
+                    "click", "--repeat", str(times), "--delay", "20", button],
+                   check=True, timeout=PATIENCE)
+
+
+def choose(program, caption):
+    click(program, RIGHT)
+    item = wait_for(lambda: next(item for item in program.menu_items() if item.name == caption),
+                    f"the menu has the item \"{caption}\"")
+    x, y = item.centre()
+    subprocess.run(["xdotool", "mousemove", str(x), str(y), "click", LEFT], check=True,
+                   timeout=PATIENCE)
+
+
+checks.run(
+    the_icon_is_there,
+    a_double_click_brings_the_hidden_window_back,
+    other_clicks_do_nothing,
+    the_right_button_opens_the_menu,
+    the_menus_first_item_brings_the_hidden_window_back,
+    the_menus_exit_ends_the_program,
+    a_panel_that_goes_and_comes_back_has_the_icon_again,
+    a_panel_that_comes_later_gets_the_icon,
+)
