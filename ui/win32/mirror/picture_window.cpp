@@ -9,7 +9,7 @@ namespace {
 
 using Image = controls::Picture::Image;
 
-const wchar_t* resource(Image image) {
+const wchar_t* iconOf(Image image) {
   return image == Image::programIcon ? L"application" : L"broom";
 }
 
@@ -52,7 +52,7 @@ LRESULT IconWindow::onMessage(UINT message, WPARAM word, LPARAM value) {
 }
 
 PictureWindow::PictureWindow(controls::Picture& control, int side, Pane& parent)
-    : IconWindow(resource(control.image()), side, parent) {
+    : IconWindow(iconOf(control.image()), side, parent) {
   setSpokenName(*this, meaning(control.image()));
   mirrorControl(control, *this);
 }
