@@ -6,7 +6,7 @@
 
 #include "platform/linux/recent_places.h"
 #include "platform/linux/temporary_rules.h"
-#include "tests/browsers/source_folder.h"
+#include "tests/support/source_folder.h"
 
 namespace zelvane::test {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "platform/shared/browsers/browser.h"
 #include "tests/browsers/browser_bed.h"
-#include "tests/browsers/source_folder.h"
+#include "tests/support/source_folder.h"
 
 namespace zelvane::test {
 namespace {

@@ -8,7 +8,7 @@
 #include <leveldb/db.h>
 #include <sqlite3.h>
 
-#include "tests/browsers/source_folder.h"
+#include "tests/support/source_folder.h"
 
 namespace zelvane::test {
 namespace {

@@ -68,7 +68,7 @@ TEST_F(Win32AboutBoxTest, ItsButtonClosesItAndTheWindowCanBeUsedAgain) {
 }
 
 TEST_F(Win32AboutBoxTest, TheReturnKeyPressesItsButtonAndTheEscapeKeyClosesIt) {
-  for (const WPARAM key : {VK_RETURN, VK_ESCAPE}) {
+  for (const WPARAM key : {WPARAM{VK_RETURN}, WPARAM{VK_ESCAPE}}) {
     window.trayMenu.mnuAbout.click();
     EXPECT_TRUE(isOpen());
 

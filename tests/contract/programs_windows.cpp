@@ -67,7 +67,7 @@ class FileType {
   static void setDefault(const std::string& path, const std::string& text) {
     const std::wstring wide = wideText(text);
     const auto opened = platform::createKey(HKEY_CURRENT_USER, wideText(path));
-    if (platform::writeValue(opened.key.get(), L"", REG_SZ, platform::dataOf(wide)) !=
+    if (platform::writeValue(opened.key.get(), std::wstring(), REG_SZ, platform::dataOf(wide)) !=
         ERROR_SUCCESS) {
       throw std::runtime_error("no such type can be registered");
     }

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QLabel>
 #include <QTabWidget>
+#include <QTest>
 #include <set>
 
 #include <gtest/gtest.h>
@@ -144,22 +145,21 @@ TEST_F(QtShellTest, AHiddenWindowWhoseIconIsLostIsShownMinimised) {
 }
 
 TEST_F(QtShellTest, WithoutAPlaceForTheIconTheCloseBoxMinimisesAndTheProgramLives) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&shell));
   desktop.tray.takePlaceAway();
 
   shell.close();
-  QCoreApplication::processEvents();
 
-  EXPECT_TRUE(shell.isMinimized());
-
+  EXPECT_TRUE(QTest::qWaitFor([this] { return shell.isMinimized(); }));
   EXPECT_EQ(window.mainPage.form.state(), controls::Form::State::minimised);
   EXPECT_TRUE(window.mainPage.form.visible());
   EXPECT_FALSE(desktop.process.ended());
 }
 
 TEST_F(QtShellTest, AMinimisedWindowThatTheUserRestoresIsNormalAgain) {
+  ASSERT_TRUE(QTest::qWaitForWindowActive(&shell));
   window.mainPage.form.setState(controls::Form::State::minimised);
-  QCoreApplication::processEvents();
-  EXPECT_TRUE(shell.isMinimized());
+  ASSERT_TRUE(QTest::qWaitFor([this] { return shell.isMinimized(); }));
 
   shell.showNormal();
 
