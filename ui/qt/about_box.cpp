@@ -9,8 +9,9 @@
 
 namespace zelvane::qt {
 
-AboutBox::AboutBox(about::AboutPage& page, controls::OpenBoxes& boxes, QWidget& window)
-    : QObject(&window), page_(page), boxes_(boxes), window_(window) {
+AboutBox::AboutBox(about::AboutPage& page, controls::OpenBoxes& boxes, const controls::Form& form,
+                   QWidget& window)
+    : QObject(&window), page_(page), boxes_(boxes), form_(form), window_(window) {
   follow(page.frmAbout, *this, [this] {
     if (page_.frmAbout.visible() && !opening_) {
       open();
@@ -45,7 +46,7 @@ void AboutBox::open() {
   if (!dialog_) {
     make();
   }
-  const bool inSight = window_.isVisible() && !window_.isMinimized();
+  const bool inSight = form_.visible() && form_.state() == controls::Form::State::normal;
   dialog_->setParent(inSight ? &window_ : nullptr, dialog_->windowFlags());
   dialog_->setWindowTitle(plainCaption(page_.frmAbout.caption()));
   dialog_->setAccessibleName(dialog_->windowTitle());

@@ -14,7 +14,9 @@ namespace zelvane::qt {
 // used. It belongs to the window, unless that is out of sight and would take it along.
 class AboutBox : public QObject {
  public:
-  AboutBox(about::AboutPage& page, controls::OpenBoxes& boxes, QWidget& window);
+  // `window` shows `form`, the program's own.
+  AboutBox(about::AboutPage& page, controls::OpenBoxes& boxes, const controls::Form& form,
+           QWidget& window);
   ~AboutBox() override;
 
  private:
@@ -24,6 +26,7 @@ class AboutBox : public QObject {
 
   about::AboutPage& page_;
   controls::OpenBoxes& boxes_;
+  const controls::Form& form_;
   QWidget& window_;
   QPointer<QDialog> dialog_;  // made when it is first shown, and then kept
   std::optional<controls::OpenBoxes::Opening> opening_;

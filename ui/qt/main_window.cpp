@@ -78,7 +78,7 @@ MainWindow::MainWindow(main_window::frmMain& window, controls::OpenBoxes& boxes)
       }
     }
   }
-  new AboutBox(window.aboutPage, boxes, *this);
+  new AboutBox(window.aboutPage, boxes, window.mainPage.form, *this);
 }
 
 void MainWindow::layOut(main_window::frmMain& window) {

@@ -16,7 +16,6 @@ DIALOG = ("dialog", "alert")
 FRAME = "frame"  # which is what it calls a window
 LABEL = "label"
 LIST_ITEM = "list item"
-MENU_ITEM = "menu item"
 SCROLL_BAR = "scroll bar"
 SPIN_BUTTON = "spin button"
 TAB = "page tab"

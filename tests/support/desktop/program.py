@@ -51,10 +51,6 @@ class Program:
             return Message(boxes[0]) if boxes else None
         return wait_for(shown, "the program shows a message")
 
-    def menu_items(self):
-        """Those of its menu that is open, if any."""
-        return [part for part in self._application().parts() if part.role == accessible.MENU_ITEM]
-
     def tell_to_quit(self):
         """As the end of the session does to a program that has not gone by itself."""
         self._process.terminate()
