@@ -81,7 +81,7 @@ def measure(desktop, path):
     for name, clean in CLEANERS.items():
         web = travels.closed()
         clean(web, desktop)
-        found = web.found()
+        found = web.look().found
         for browser in web.browsers:
             for row in ROWS:
                 tokens = {token.text: token.kind for token in web.manifest.of(

@@ -26,24 +26,26 @@ def show(desktop, program, report):
     report.say("  Links, forms, a download, typed addresses, cookies, storage, a bookmark in each.")
     travels = Travels(desktop, program, chains=((UsualFirefox,), (Chromium,)))
     web = travels.closed()
-    before = {browser.name: len(web.hits(*goes, browser=browser)) for browser in web.browsers}
+    look = web.look()
+    before = {browser.name: len(look.hits(*goes, browser=browser)) for browser in web.browsers}
 
     report.heading("Cleaning with both closed")
     web.clean(*OPTIONS.values())
+    look = web.look()
     for browser in web.browsers:
-        left = web.hits(*goes, browser=browser)
+        left = look.hits(*goes, browser=browser)
         report.say(f"  {browser.name:10} traces found before: {before[browser.name]:4}, "
                    f"after: {len(left):4}")
         report.check(f"Of what {browser.name} kept of the journey nothing is left",
                      before[browser.name] and not left, "\n".join(left))
-        kept = web.kinds(KEEP, browser=browser)
+        kept = look.kinds(KEEP, browser=browser)
         report.check(f"The bookmark of {browser.name} and its icon are there",
                      {"bookmarktitle", "bookmarkicondots"} <= kept, kept)
     for browser in web.browsers:
         browser.start()
         browser.close()
         report.check(f"{browser.name} starts again with what was left",
-                     "bookmarktitle" in web.kinds(KEEP, browser=browser))
+                     "bookmarktitle" in web.look().kinds(KEEP, browser=browser))
 
     report.heading("Cleaning with Chromium open")
     open_one = travels.closed()
@@ -51,10 +53,11 @@ def show(desktop, program, report):
     chromium.start()
     try:
         open_one.clean(*OPTIONS.values())
+        look = open_one.look()
         report.check("The open browser keeps all that it had",
-                     open_one.kinds(HISTORY, COOKIES, browser=chromium)
+                     look.kinds(HISTORY, COOKIES, browser=chromium)
                      >= {"address", "title", "cookiename"})
         report.check("The closed one is cleaned all the same",
-                     not open_one.hits(*goes, browser=open_one.browser(UsualFirefox)))
+                     not look.hits(*goes, browser=open_one.browser(UsualFirefox)))
     finally:
         chromium.close()

@@ -23,7 +23,7 @@ from glass.tokens import KEEP
 
 TRIES = 8  # a page that was only just shown takes no clicks
 SOON = 5  # seconds; what has not come of a click by then never will
-AT_START = 180  # seconds; both browsers at once, on a busy machine
+PATIENCE = 30  # seconds; both browsers at once, on a machine that has other work
 
 
 class Browser:
@@ -52,10 +52,12 @@ class Browser:
     def travel(self):
         """Goes through all pages of the journey, and leaves the last one open."""
         journey = self.journey
-        self.start(journey.addresses["first"])
-        self._server.wait_for(journey.event("first"), AT_START)
+        self.start()
+        # A browser that has only just started may drop what it was to open, or a part of it.
+        self._until(lambda: self._server.was_told(journey.event("first")),
+                    lambda: self.open(journey.addresses["first"]), "the first page", 30)
         self._extend()
-        self._server.wait_for(self.extension.began, 60)
+        self._server.wait_for(self.extension.began, PATIENCE)
         for page in ("secure", "form"):
             self._until_told(page, self._click)
         self._until_told("posted", self._fill_in)
@@ -74,7 +76,7 @@ class Browser:
         self._keep_a_password(f"http://{self.journey.token('passwordhost', KEEP)}.test",
                               self.journey.token("user", KEEP))
         self._choose()
-        wait_until(self._has_stored_it, f"{self.name} has stored its journey", 60)
+        wait_until(self._has_stored_it, f"{self.name} has stored its journey", PATIENCE)
 
     def go_to(self, page):
         """Types the page's address."""
@@ -99,32 +101,37 @@ class Browser:
         os.killpg(self._process.pid, signal.SIGCONT)
 
     def _ended(self):
-        self._process.wait(60)
+        self._process.wait(PATIENCE)
         # Its other processes go a moment later than itself.
-        wait_until(lambda: not _is_held_open(self.folder.parent), f"{self.name} lets go", 60)
+        wait_until(lambda: not _is_held_open(self.folder.parent), f"{self.name} lets go", PATIENCE)
         if self.orders:
             self.orders.hang_up()
             self.orders = None
 
+    @property
+    def _log_path(self):
+        return self.home.runtime / f"{self.name}-{self.profile}.log"
+
     def _log(self):
-        return open(self.home.runtime / f"{self.name}-{self.profile}.log", "ab")
+        return open(self._log_path, "ab")
 
     def _until_told(self, page, act):
         address = self.journey.addresses[page]
         # A second click on a page that is on its way would lead on from it too early.
         self._until(lambda: address in self._server.visited, act, f"the page \"{page}\" is asked for")
-        self._server.wait_for(self.journey.event(page), 60)
+        self._server.wait_for(self.journey.event(page), PATIENCE)
 
-    def _until(self, done, act, what):
+    def _until(self, done, act, what, seconds=SOON):
         reasons = []
         for _ in range(TRIES):
             try:
                 act()
             except Refused as reason:
                 reasons.append(str(reason))
-            if self._server.wait_until(done, SOON):
+            if self._server.wait_until(done, seconds):
                 return
-        raise TookTooLong(f"{TRIES} times were not enough: {what} {reasons}")
+        raise TookTooLong(f"{TRIES} times were not enough: {what} {reasons}\n"
+                          + "\n".join(self._server.last_visits()))
 
     def _has_stored_it(self):
         """So that a browser that is killed has left something."""
@@ -171,12 +178,23 @@ class Firefox(Browser):
                  "--remote-allow-system-access", *([address] if address else [])],
                 env=self._desktop.environment(self.home), cwd=self.home.home,
                 stdin=subprocess.DEVNULL, stdout=log, stderr=log, start_new_session=True)
-            self.orders = wait_until(lambda: Marionette(int(listening.read_text())),
-                                     "Firefox listens", AT_START, refused=(OSError, ValueError))
+            # Whoever comes too early is sent away.
+            self.orders = wait_until(lambda: self._listens(listening), "Firefox listens", PATIENCE,
+                                     refused=(OSError, ValueError, Refused))
+
+    def _listens(self, listening):
+        if self._process.poll() is not None:
+            raise AssertionError(f"Firefox ended with status {self._process.returncode}:\n"
+                                 + self._log_path.read_text("utf-8", "replace")[-2000:])
+        return Marionette(int(listening.read_text()))
 
     def close(self):
         self.orders.quit()
         self._ended()
+
+    def open(self, address):
+        """As from a link of another program."""
+        self.orders.open(address)
 
     def _click(self):
         self.orders.click("a")
@@ -250,19 +268,21 @@ class Chromium(Browser):
     profile = "default"
     folder_name = "Default"
 
-    def start(self, address="about:blank"):
+    def start(self):
         with self._log() as log:
             self.orders = DevTools(
                 ["chromium", f"--user-data-dir={self.folder.parent}",
                  f"--profile-directory={self.folder_name}", "--no-sandbox", "--no-first-run",
                  "--password-store=basic", f"--load-extension={self.extension.folder}",
                  "--disable-features=DisableLoadExtensionCommandLineSwitch",
+                 # Its window may lie behind another's, and go on all the same.
+                 "--disable-backgrounding-occluded-windows", "--disable-renderer-backgrounding",
                  "--window-size=1000,800", "--window-position=0,0",
                  "--host-resolver-rules=MAP * 127.0.0.1", *([address] if address else [])],
                 env=self._desktop.environment(self.home), cwd=self.home.home, stdout=log, stderr=log)
         self._process = self.orders.process
         self._hands = Hands(self._process.pid, self.title)
-        page = wait_until(lambda: next(iter(self.orders.pages()), None), "Chromium is there", AT_START)
+        page = wait_until(lambda: next(iter(self.orders.pages()), None), "Chromium is there", PATIENCE)
         self._look_at(page)
 
     def close(self):
@@ -273,7 +293,7 @@ class Chromium(Browser):
         """Runs a script in one of the browser's own pages, until that can do it."""
         page = self.orders.ask("Target.createTarget", url=address)["targetId"]
         session = self.orders.attach(page)
-        wait_until(lambda: self.orders.run(session, script) is not False, script, 60)
+        wait_until(lambda: self.orders.run(session, script) is not False, script, PATIENCE)
         self.orders.ask("Target.closeTarget", targetId=page)
 
     @classmethod
@@ -287,6 +307,10 @@ class Chromium(Browser):
     def _look_at(self, page):
         self._page = page
         self._session = self.orders.attach(page)
+
+    def open(self, address):
+        """As from a link of another program."""
+        self.orders.ask("Page.navigate", self._session, url=address, transitionType="link")
 
     def _click(self):
         for kind in ("mousePressed", "mouseReleased"):

@@ -22,8 +22,12 @@ class Marionette:
         self._socket = socket.create_connection(("127.0.0.1", port), ANSWER)
         self._unread = b""
         self._number = 0
-        self._read()  # It says who it is.
-        self._ask("WebDriver:NewSession", capabilities={})
+        try:
+            self._read()  # It says who it is.
+            self._ask("WebDriver:NewSession", capabilities={})
+        except Exception:
+            self.hang_up()
+            raise
 
     def in_window(self, script, *arguments):
         """The script may wait; what it returns comes back."""
@@ -33,6 +37,10 @@ class Marionette:
     def in_page(self, script, *arguments):
         self._ask("Marionette:SetContext", value="content")
         return self._run(script, arguments)
+
+    def open(self, address):
+        self._ask("Marionette:SetContext", value="content")
+        self._ask("WebDriver:Navigate", url=address)
 
     def click(self, selector):
         self._ask("WebDriver:ElementClick", id=self._find(selector))

@@ -16,6 +16,14 @@ class Answer:
         self.status = status
 
 
+class _HttpServer(http.server.ThreadingHTTPServer):
+    daemon_threads = True
+    request_queue_size = 128  # two browsers that start ask for much at once
+
+    def handle_error(self, request, client_address):
+        """A killed browser hangs up."""
+
+
 class Server:
     """Runs as long as the `with` block lasts. `visited` are all addresses that were asked for."""
 
@@ -23,11 +31,10 @@ class Server:
         self._answers = {}
         self._told = set()
         self._turns = collections.Counter()
+        self._last_visits = collections.deque(maxlen=10)
         self._changed = threading.Condition()
         self.visited = set()
-        self._http = http.server.ThreadingHTTPServer(("127.0.0.1", 0), self._handler())
-        self._http.daemon_threads = True
-        self._http.handle_error = lambda *connection: None  # a killed browser hangs up
+        self._http = _HttpServer(("127.0.0.1", 0), self._handler())
         self.port = self._http.server_port
 
     def __enter__(self):
@@ -56,6 +63,12 @@ class Server:
         with self._changed:
             return self._changed.wait_for(done, seconds)
 
+    def was_told(self, event):
+        return event in self._told
+
+    def last_visits(self):
+        return list(self._last_visits)
+
     def forget(self, event, address=None):
         """So that it can be waited for once more, and the visit as well."""
         with self._changed:
@@ -82,6 +95,7 @@ class Server:
                 self._changed.notify_all()
                 return Answer("", headers={"Cache-Control": "no-store"})
             self.visited.add(f"http://{host}{target}")
+            self._last_visits.append(f"http://{host}{target}")
             self._changed.notify_all()
         answer = self._answers.get((host, path)) or self._answers.get((host, "*"))
         return answer(headers) if callable(answer) else answer or Answer("none", status=404)

@@ -6,15 +6,17 @@ import functools
 import json
 import subprocess
 
+from gi.repository import Atspi
+
+from desktop import settings
 from desktop.program import Program
 from desktop.waiting import TookTooLong, wait_until
-from glass.browsers import Chromium, MovedFirefox, SecondChromium, UsualFirefox
+from glass.browsers import PATIENCE, Chromium, MovedFirefox, SecondChromium, UsualFirefox
 from glass.finder import Glass
 from glass.server import Server
 from glass.tokens import CACHE, COOKIES, HISTORY, TYPED, Manifest
 
-OPTIONS = {HISTORY: "Clear Browser History Logs", CACHE: "Clear Temporary Internet Files",
-           COOKIES: "Clear Browser Cookies", TYPED: "Clear Site Addresses"}
+OPTIONS = {TYPED: 2, CACHE: 6, COOKIES: 7, HISTORY: 9}  # by their numbers
 # The profiles of one browser are used one after the other, both browsers at the same time.
 CHAINS = ((UsualFirefox, MovedFirefox), (Chromium, SecondChromium))
 # The file that the journey downloads is its user's, and the desktop's list of it another option's.
@@ -29,6 +31,8 @@ class Travels:
         self._path = path
         self._chains = chains
         self._homes = 0
+        # A window may take a while to answer on a machine that has all hands full with browsers.
+        Atspi.set_timeout(PATIENCE * 1000, PATIENCE * 1000)
         self.server = Server().__enter__()
 
     def closed(self):
@@ -99,28 +103,20 @@ class Web:
     def browser(self, kind):
         return next(browser for browser in self.browsers if type(browser) is kind)
 
-    def found(self):
+    def look(self):
+        """Searches all of it, as it is now."""
         found = Glass(self.manifest).search(self.home.home)
         assert not found.not_read, found.not_read
-        return [hit for hit in found.hits if not hit.file.startswith(NOT_BROWSERS)]
-
-    def hits(self, *erased_by, browser=None):
-        """Of the tokens that these take away, as "kind: place" lines."""
-        wanted = {token.text for token in self._tokens(erased_by, browser)}
-        return sorted({f"{hit.kind}: {hit.file} {hit.within} {hit.view}" for hit in self.found()
-                       if hit.token in wanted})
-
-    def kinds(self, *erased_by, browser=None):
-        return {line.split(":")[0] for line in self.hits(*erased_by, browser=browser)}
+        return Look(self.manifest, [hit for hit in found.hits
+                                    if not hit.file.startswith(NOT_BROWSERS)])
 
     def clean(self, *options):
-        """Returns the log."""
+        """With these alone of the options; returns the log."""
+        settings.tick_only(self.home, self._path, *options)
         with Program(self._path, self._desktop, self.home) as program:
             window = program.window()
-            window.tick_only(*options)
             window.begin_to_clean()
-            # On a machine that has all hands full with browsers, the window may take a while to answer.
-            return wait_until(lambda: window.end_of_run(60), "the run ends", 180,
+            return wait_until(lambda: window.end_of_run(60), "the run ends", PATIENCE,
                               refused=(TookTooLong,))
 
     def profile_names(self):
@@ -132,7 +128,21 @@ class Web:
                 SecondChromium: f"Chromium ({names['chromium Profile 1']})",
                 UsualFirefox: "Firefox (usual)", MovedFirefox: "Firefox (moved)"}
 
-    def _tokens(self, erased_by, browser):
-        return [token for token in self.manifest.tokens if token.erased_by in erased_by
-                and (browser is None
-                     or (token.browser, token.profile) == (browser.name, browser.profile))]
+
+class Look:
+    """What was found."""
+
+    def __init__(self, manifest, found):
+        self.found = found
+        self._manifest = manifest
+
+    def hits(self, *erased_by, browser=None):
+        """Of the tokens that these take away, as "kind: place" lines."""
+        wanted = {token.text for token in self._manifest.tokens if token.erased_by in erased_by
+                  and (browser is None
+                       or (token.browser, token.profile) == (browser.name, browser.profile))}
+        return sorted({f"{hit.kind}: {hit.file} {hit.within} {hit.view}" for hit in self.found
+                       if hit.token in wanted})
+
+    def kinds(self, *erased_by, browser=None):
+        return {line.split(":")[0] for line in self.hits(*erased_by, browser=browser)}
