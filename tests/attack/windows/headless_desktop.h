@@ -13,7 +13,6 @@
 #include "platform/memory/memory_machine.h"
 #include "platform/memory/memory_notifications.h"
 #include "platform/memory/memory_process_end.h"
-#include "platform/memory/memory_programs.h"
 #include "platform/memory/memory_sound.h"
 #include "platform/memory/memory_tray.h"
 #include "platform/memory/memory_window.h"
@@ -29,6 +28,7 @@
 #include "platform/windows/windows_identity.h"
 #include "platform/windows/windows_ledger.h"
 #include "platform/windows/windows_profile_file.h"
+#include "platform/windows/windows_programs.h"
 #include "platform/windows/windows_recycle_bin.h"
 #include "platform/windows/windows_registry.h"
 #include "platform/windows/windows_settings.h"
@@ -111,7 +111,7 @@ class HeadlessDesktop {
   platform::MemoryProcessEnd process;
   platform::MemoryNotifications notifications;
   platform::MemorySound sound;
-  platform::MemoryPrograms programs;
+  platform::WindowsPrograms programs{[] { return HWND(); }};
   platform::MemoryTray tray;
 
   platform::Desktop ports() {

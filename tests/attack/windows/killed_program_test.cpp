@@ -210,8 +210,9 @@ TEST_F(KilledProgram, LeavesAFileThatItReplacesOldOrNewAndNothingBesideIt) {
   };
 
   killEverywhere(kReplaceFile, prepare, [](const World& world, const Life& life, Side) {
-    EXPECT_EQ(neitherBeforeNorAfter(storedIn(world), {{"target", "old content"}},
-                                    {{"target", "new content"}}),
+    const StoredValues::value_type sound = {R"(data\wavpath.txt)", "\r\n"};
+    EXPECT_EQ(neitherBeforeNorAfter(storedIn(world), {{"target", "old content"}, sound},
+                                    {{"target", "new content"}, sound}),
               Texts{});
     expectNoLeftovers(world, life);
     for (const auto& [name, content] : leftoversIn(world)) {
