@@ -23,7 +23,7 @@ from glass.tokens import KEEP
 
 TRIES = 8  # a page that was only just shown takes no clicks
 SOON = 5  # seconds; what has not come of a click by then never will
-PATIENCE = 30  # seconds; both browsers at once, on a machine that has other work
+PATIENCE = 180  # seconds; both browsers at once, on a machine that has other work
 
 
 class Browser:

@@ -24,7 +24,9 @@ class Marionette:
         self._number = 0
         try:
             self._read()  # It says who it is.
-            self._ask("WebDriver:NewSession", capabilities={})
+            # Whoever clicks waits for the server to be asked, not for the browser to be content.
+            self._ask("WebDriver:NewSession", capabilities={
+                "alwaysMatch": {"pageLoadStrategy": "none"}})
         except Exception:
             self.hang_up()
             raise

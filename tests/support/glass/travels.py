@@ -6,9 +6,7 @@ import functools
 import json
 import subprocess
 
-from gi.repository import Atspi
-
-from desktop import settings
+from desktop import accessible, settings
 from desktop.program import Program
 from desktop.waiting import TookTooLong, wait_until
 from glass.browsers import PATIENCE, Chromium, MovedFirefox, SecondChromium, UsualFirefox
@@ -32,7 +30,7 @@ class Travels:
         self._chains = chains
         self._homes = 0
         # A window may take a while to answer on a machine that has all hands full with browsers.
-        Atspi.set_timeout(PATIENCE * 1000, PATIENCE * 1000)
+        accessible.Atspi.set_timeout(PATIENCE * 1000, PATIENCE * 1000)
         self.server = Server().__enter__()
 
     def closed(self):
