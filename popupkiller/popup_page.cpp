@@ -8,7 +8,8 @@ PopupPage::PopupPage() {
   Command1.placeIn(Frame1);
   Label14.placeIn(Frame1);
   Frame1.setDescription(
-      "Windows that a page opens by itself are stopped, and a sound tells of it.");
+      "Stopping the windows that pages open comes with a later version; what is chosen here is "
+      "kept.");
   vindows.setDescription("The browser windows that are open.");
 }
 
