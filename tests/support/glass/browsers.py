@@ -268,7 +268,7 @@ class Chromium(Browser):
     profile = "default"
     folder_name = "Default"
 
-    def start(self):
+    def start(self, address="about:blank"):
         with self._log() as log:
             self.orders = DevTools(
                 ["chromium", f"--user-data-dir={self.folder.parent}",
