@@ -15,7 +15,7 @@ struct SystemVersion {
   int major = 0;                 //
   int minor = 0;                 //
   int build = 0;                 //
-  std::string servicePack = "";  // empty for none
+  std::string servicePack = {};  // empty for none
 
   friend bool operator==(const SystemVersion&, const SystemVersion&) = default;
 };

@@ -23,7 +23,8 @@ std::string found(const std::string& program, const Environment& environment) {
   if (program.starts_with('/')) return isExecutable(program) ? program : "";
   if (program.empty() || program.find('/') != std::string::npos) return "";
   for (const std::string& folder : environment.programDirs) {
-    std::string path = folder + "/" + program;
+    std::string path = folder;
+    path.append("/").append(program);
     if (isExecutable(path)) return path;
   }
   return "";

@@ -89,6 +89,7 @@ bool LinuxPrograms::start(const std::string& program, const std::string& argumen
   std::vector<std::string> words = commandWords(*entry, argument, environment_);
   if (words.empty()) return false;
   std::vector<char*> pointers;
+  pointers.reserve(words.size() + 1);
   for (std::string& word : words) pointers.push_back(word.data());
   pointers.push_back(nullptr);
   const Beginning beginning;
