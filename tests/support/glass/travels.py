@@ -58,6 +58,9 @@ class Travels:
             for travelled in [pool.submit(self._travel, web, kinds, end) for kinds in self._chains]:
                 web.browsers += travelled.result()
         web.manifest.addresses = sorted(self.server.visited)
+        # Its first start gives the browsers their start page. What a cleaning does is to be seen alone.
+        with Program(self._path, self._desktop, web.home) as program:
+            program.window()
         return web
 
     def _travel(self, web, kinds, end):
