@@ -4,7 +4,6 @@
 #include <array>
 #include <charconv>
 #include <cstdint>
-#include <ranges>
 #include <utility>
 
 #include "platform/error.h"
@@ -152,7 +151,7 @@ class Reader {
 // JSON's own escapes are not all known to Firefox, which takes any other character as it is.
 std::string writtenForm(const json& value) {
   try {
-    const std::string checked = value.dump();
+    std::string checked = value.dump();
     if (!value.is_string()) return checked;
   } catch (const json::type_error&) {
     throw Error(ErrorNumber::typeMismatch, "The text is no UTF-8.");
@@ -192,18 +191,18 @@ void PreferenceText::read() {
 }
 
 std::optional<json> PreferenceText::find(std::string_view name) const {
-  const auto backwards = entries_ | std::views::reverse;
-  const auto entry = std::ranges::find(backwards, name, &Entry::name);
-  return entry == backwards.end() ? std::nullopt : std::optional(entry->value);
+  const auto entry = std::find_if(entries_.rbegin(), entries_.rend(),
+                                  [&](const Entry& each) { return each.name == name; });
+  return entry == entries_.rend() ? std::nullopt : std::optional(entry->value);
 }
 
 void PreferenceText::set(std::string_view name, const json& value) {
   const std::string written = writtenForm(value);
   bool isThere = false;
   // From the end, so that the places before it stay where they are.
-  for (const Entry& entry : entries_ | std::views::reverse) {
-    if (entry.name != name) continue;
-    text_.replace(entry.begin, entry.end - entry.begin, written);
+  for (auto entry = entries_.rbegin(); entry != entries_.rend(); ++entry) {
+    if (entry->name != name) continue;
+    text_.replace(entry->begin, entry->end - entry->begin, written);
     isThere = true;
   }
   if (!isThere) {
