@@ -102,8 +102,10 @@ std::optional<std::string> LinuxBrowserDesktop::ownFolder(const std::string& pat
 }
 
 bool LinuxBrowserDesktop::isOpen(const Profile& profile) const {
-  const bool isLocked = profile.family == Family::firefox ? isLockedByFirefox(profile.folder)
-                                                          : isLockedElsewhere(profile.root);
+  // One process of Chromium's serves all profiles, and what they share lies beside them.
+  const bool isLocked = profile.family == Family::firefox
+                            ? isLockedByFirefox(profile.folder)
+                            : isLockedElsewhere(profile.root) || isAnyInUse(profile.root);
   return isLocked || isAnyInUse(profile.folder);
 }
 

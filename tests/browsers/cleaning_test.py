@@ -151,7 +151,7 @@ def open_browsers_go_on_and_are_told_of_once(bed):
     names = one.profile_names()
     assert title == "Zelvane", title
     assert [line.split(" is open.")[0] for line in text.splitlines()] == [
-        names[UsualFirefox], names[Chromium]], text
+        names[UsualFirefox], names[Chromium], names[SecondChromium]], text
     for browser, before in zip(browsers, visits):
         assert before <= _visits(browser), before - _visits(browser)
     _every_database_is_sound(one.home)

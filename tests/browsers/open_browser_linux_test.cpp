@@ -69,6 +69,19 @@ TEST_F(OpenBrowserTest, AChromiumWithAnOpenDatabaseIsLeftWholeAndTold) {
   EXPECT_EQ(left.take(), (std::vector<LeftTrace>{{"Chromium (Default)", ""}}));
 }
 
+TEST_F(OpenBrowserTest, AllProfilesOfAnOpenChromiumAreLeft) {
+  installChromium();
+  writeFile(chromiumRoot + "/CrashpadMetrics-active.pma", "");
+  const auto browser = holding(chromiumRoot + "/CrashpadMetrics-active.pma");
+  browser->hearLine();
+  const std::string before = filesWith("seen");
+
+  eraseEverything();
+
+  EXPECT_EQ(filesWith("seen"), before);
+  EXPECT_EQ(left.take(), (std::vector<LeftTrace>{{"Chromium (Default)", ""}}));
+}
+
 TEST_F(OpenBrowserTest, AChromiumOfAnotherMachineIsLeft) {
   installChromium();
   std::filesystem::create_symlink("another-machine-4711", chromiumRoot + "/SingletonLock");

@@ -1,5 +1,6 @@
 """Child processes that never outlive the one that started them."""
 
+import contextlib
 import ctypes
 import os
 import pathlib
@@ -58,8 +59,11 @@ def end_all(seconds=5):
 
 
 def _children():
-    own = pathlib.Path("/proc/self/task")
-    return [int(pid) for task in own.iterdir() for pid in (task / "children").read_text().split()]
+    pids = []
+    for task in pathlib.Path("/proc/self/task").iterdir():
+        with contextlib.suppress(FileNotFoundError, ProcessLookupError):  # It ended just now.
+            pids += [int(pid) for pid in (task / "children").read_text().split()]
+    return pids
 
 
 def _signal(pid, number):
