@@ -3,6 +3,8 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
+#include <algorithm>
+#include <iterator>
 #include <stdexcept>
 
 #include "tests/support/source_folder.h"
@@ -23,9 +25,9 @@ void NotifierPanel::stop() {
 std::vector<std::string> NotifierPanel::tips() {
   std::vector<std::string> tips;
   if (process_.state() != QProcess::Running) return tips;
-  for (const QJsonValue& tip : ask({"tips"}).toArray()) {
-    tips.push_back(tip.toString().toStdString());
-  }
+  const QJsonArray told = ask({"tips"}).toArray();
+  std::transform(told.begin(), told.end(), std::back_inserter(tips),
+                 [](const QJsonValue& tip) { return tip.toString().toStdString(); });
   return tips;
 }
 

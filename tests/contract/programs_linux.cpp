@@ -38,7 +38,7 @@ class Place {
 
   // An executable that says what its commands write.
   std::string program(const std::string& name, const std::string& commands) const {
-    const std::string path =
+    std::string path =
         folder.write("bin/" + name, "#!/bin/sh\n{ " + commands + R"(; printf '\000'; } > ')" +
                                         folder / "ear" + "'\n");
     fs::permissions(path, fs::perms::owner_all);
