@@ -43,6 +43,7 @@ class Helper {
     dup2(mouth < 0 ? nobody : mouth, STDOUT_FILENO);
     dup2(nobody, STDERR_FILENO);
     std::vector<char*> pointers;
+    pointers.reserve(words.size() + 1);
     for (std::string& word : words) pointers.push_back(word.data());
     pointers.push_back(nullptr);
     execvp(pointers.front(), pointers.data());

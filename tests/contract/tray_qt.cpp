@@ -49,7 +49,7 @@ class QtTrayBed : public TrayBed {
   Names opened(const std::string& menuName) override {
     tray_.showMenu(menuName);
     const QWidget* popup = QApplication::activePopupWidget();
-    const Names names = popup == nullptr ? Names{} : Names{popup->objectName().toStdString()};
+    Names names = popup == nullptr ? Names{} : Names{popup->objectName().toStdString()};
     menu_.hide();
     return names;
   }
