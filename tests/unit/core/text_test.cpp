@@ -17,13 +17,12 @@ TEST(Text, ATimeOfDayHasTwoDigitsEachOnAClockOf24Hours) {
 
 TEST(Text, TheDaysOfTheWeekHaveTheirEnglishNames) {
   const std::chrono::local_days monday(std::chrono::year(2026) / 11 / 16);
-  std::vector<std::string> names;
+  std::string names;
   for (int day = 0; day < 7; ++day) {
-    names.push_back(weekdayName(std::chrono::weekday(monday + std::chrono::days(day))));
+    names += weekdayName(std::chrono::weekday(monday + std::chrono::days(day))) + " ";
   }
 
-  EXPECT_EQ(names, (std::vector<std::string>{"Monday", "Tuesday", "Wednesday", "Thursday", "Friday",
-                                             "Saturday", "Sunday"}));
+  EXPECT_EQ(names, "Monday Tuesday Wednesday Thursday Friday Saturday Sunday ");
 }
 
 TEST(Text, CharactersAreCountedAndNotBytes) {
