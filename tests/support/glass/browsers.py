@@ -22,6 +22,7 @@ from glass.pages import Journey
 from glass.tokens import KEEP
 
 TRIES = 8  # a page that was only just shown takes no clicks
+STANDSTILL = 30  # seconds, in which any page has told
 SOON = 5  # seconds; what has not come of a click by then never will
 PATIENCE = 180  # seconds; both browsers at once, on a machine that has other work
 
@@ -119,7 +120,12 @@ class Browser:
         address = self.journey.addresses[page]
         # A second click on a page that is on its way would lead on from it too early.
         self._until(lambda: address in self._server.visited, act, f"the page \"{page}\" is asked for")
-        self._server.wait_for(self.journey.event(page), PATIENCE)
+
+        def told():
+            return self._server.was_told(self.journey.event(page))
+        # Now and then a page stands still before it has done anything, until it is loaded anew.
+        if not self._server.wait_until(told, STANDSTILL):
+            self._until(told, self._reload, f"the page \"{page}\" tells", STANDSTILL)
 
     def _until(self, done, act, what, seconds=SOON):
         reasons = []
@@ -195,6 +201,9 @@ class Firefox(Browser):
     def open(self, address):
         """As from a link of another program."""
         self.orders.open(address)
+
+    def _reload(self):
+        self.orders.in_window("gBrowser.reload();")
 
     def _click(self):
         self.orders.click("a")
@@ -311,6 +320,9 @@ class Chromium(Browser):
     def open(self, address):
         """As from a link of another program."""
         self.orders.ask("Page.navigate", self._session, url=address, transitionType="link")
+
+    def _reload(self):
+        self.orders.ask("Page.reload", self._session)
 
     def _click(self):
         for kind in ("mousePressed", "mouseReleased"):

@@ -1,5 +1,6 @@
 // The icon in the notification area, and what the user does with it.
 #include <algorithm>
+#include <numeric>
 
 #include "core/shell_tray.h"
 #include "platform/error.h"
@@ -183,10 +184,8 @@ TEST_F(LoadedTrayTest, EveryOtherMessageOfTheMouseIsIgnored) {
   const auto isHeeded = [](int message) {
     return message == Tray::kLeftDoubleClicked || message == Tray::kRightReleased;
   };
-  std::vector<int> messages;
-  for (int message = 0; message < 1100; ++message) {
-    messages.push_back(message);
-  }
+  std::vector<int> messages(1100);
+  std::iota(messages.begin(), messages.end(), 0);
   std::erase_if(messages, isHeeded);
 
   std::ranges::for_each(messages, [&](int message) { desktop.tray.use(message); });
