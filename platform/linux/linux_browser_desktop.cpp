@@ -1,5 +1,6 @@
 #include "platform/linux/linux_browser_desktop.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdlib>
 #include <memory>
@@ -58,8 +59,8 @@ bool isLockedElsewhere(const std::string& root) {
   return owner.substr(0, dash) != host;
 }
 
-bool isAnyInUse(const std::string& folder) {
-  const OpenFilesSnapshot inUse;
+// Whether a file that lies in the folder itself is open. One that cannot be looked into counts.
+bool isAnyIn(const OpenFilesSnapshot& inUse, const std::string& folder) {
   const Descriptor opened(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC));
   if (!opened.isOpen()) return true;
   bool found = false;
@@ -102,11 +103,20 @@ std::optional<std::string> LinuxBrowserDesktop::ownFolder(const std::string& pat
 }
 
 bool LinuxBrowserDesktop::isOpen(const Profile& profile) const {
-  // One process of Chromium's serves all profiles, and what they share lies beside them.
-  const bool isLocked = profile.family == Family::firefox
-                            ? isLockedByFirefox(profile.folder)
-                            : isLockedElsewhere(profile.root) || isAnyInUse(profile.root);
-  return isLocked || isAnyInUse(profile.folder);
+  const bool isLocked = profile.family == Family::firefox ? isLockedByFirefox(profile.folder)
+                                                          : isLockedElsewhere(profile.root);
+  if (isLocked) return true;
+  const OpenFilesSnapshot inUse;
+  if (isAnyIn(inUse, profile.folder)) return true;
+  if (profile.family == Family::firefox) return false;
+  // One process of Chromium's serves all profiles, which share what lies beside them.
+  const std::vector<std::string> names = namesIn(profile.root);
+  return isAnyIn(inUse, profile.root) || std::ranges::any_of(names, [&](const std::string& name) {
+           const std::string path = profile.root + "/" + name;
+           const bool isLookedInto =
+               kindOf(path) == PathKind::folder && access(path.c_str(), R_OK | X_OK) == 0;
+           return isLookedInto && isAnyIn(inUse, path);
+         });
 }
 
 PathKind LinuxBrowserDesktop::kindOf(const std::string& path) const {

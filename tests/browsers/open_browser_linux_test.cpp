@@ -71,8 +71,8 @@ TEST_F(OpenBrowserTest, AChromiumWithAnOpenDatabaseIsLeftWholeAndTold) {
 
 TEST_F(OpenBrowserTest, AllProfilesOfAnOpenChromiumAreLeft) {
   installChromium();
-  writeFile(chromiumRoot + "/CrashpadMetrics-active.pma", "");
-  const auto browser = holding(chromiumRoot + "/CrashpadMetrics-active.pma");
+  writeFile(chromiumRoot + "/Profile 1/History", "");
+  const auto browser = holding(chromiumRoot + "/Profile 1/History");
   browser->hearLine();
   const std::string before = filesWith("seen");
 
