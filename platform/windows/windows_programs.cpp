@@ -33,6 +33,9 @@ std::optional<std::string> WindowsPrograms::programFor(const std::string& file) 
 bool WindowsPrograms::start(const std::string& program, const std::string& argument) {
   if (hasZero(program) || hasZero(argument)) return false;
   const std::wstring parameters = L"\"" + wideText(argument) + L"\"";
+  // A command line has no room for more, and half an address is another one.
+  constexpr std::size_t kLongest = 32'766;  // with the program's path in quotes, and a blank
+  if (wideText(program).size() + parameters.size() + 3 > kLongest) return false;
   return succeeded(ShellExecuteW(owner_(), L"open", wideText(program).c_str(), parameters.c_str(),
                                  L"", SW_SHOWNOACTIVATE));
 }

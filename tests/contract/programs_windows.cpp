@@ -169,13 +169,8 @@ TEST_F(WindowsProgramsTest, TheWindowIsShownWithoutBeingActivated) {
   EXPECT_EQ(saidOf("a").substr(0, 2), std::to_string(SW_SHOWNOACTIVATE) + " ");
 }
 
-// Windows itself has no command line for so much.
-TEST_F(WindowsProgramsTest, AVeryLongArgumentArrivesWholeOrStartsNothing) {
-  const std::string argument(65'536, 'a');
-
-  const std::string said = saidOf(argument);
-
-  EXPECT_TRUE(said == "not started" || said.ends_with("\"" + argument + "\"")) << said.size();
+TEST_F(WindowsProgramsTest, WhatNoCommandLineHoldsStartsNothing) {
+  EXPECT_EQ(saidOf(std::string(65'536, 'a')), "not started");
 }
 
 }  // namespace
