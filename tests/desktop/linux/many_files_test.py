@@ -2,6 +2,7 @@
 """More files than fit into a look at them, in one folder. How the window bears them is shown by a
 million of them, in big_tree_long_test.py."""
 
+import getpass
 import os
 
 from support import checks
@@ -26,7 +27,9 @@ def a_hundred_thousand_files_in_one_folder_are_erased_with_little_memory(bed):
         with MemoryWatch(program.pid) as memory:
             window.clean()
 
-    assert not os.listdir(bed.home.temporary)
+    # Without a run-time folder of the session the toolkit makes one there, which a cleaning leaves.
+    left = set(os.listdir(bed.home.temporary))
+    assert left <= {f"runtime-{getpass.getuser()}"}, left
     assert memory.most < MOST_MEMORY, memory.most
 
 
