@@ -157,7 +157,16 @@ def serve():
     def use(method):
         call(*one_item(), ITEM, method, GLib.Variant("(ii)", (0, 0)))
 
-    deeds = {"tips": lambda: [get(item, "ToolTip")[2] for item in items],
+    def tips():
+        told = []
+        for item in list(items):
+            try:
+                told.append(get(item, "ToolTip")[2])
+            except GLib.Error:
+                pass  # It went just now.
+        return told
+
+    deeds = {"tips": tips,
              "menu": lambda: [shown(properties) for _, properties in menu_lines()[1]],
              "use": use, "choose": choose}
 

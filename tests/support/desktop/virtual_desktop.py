@@ -11,6 +11,7 @@ import struct
 import subprocess
 import sys
 import tempfile
+import time
 import urllib.parse
 
 from desktop import private_mounts, processes
@@ -125,6 +126,7 @@ class VirtualDesktop:
         # From here on this process lives on the desktop too, not in the caller's home.
         os.environ.clear()
         os.environ.update(self.environment(home))
+        time.tzset()  # its clock is theirs, too
         if self._wants_window_manager:
             processes.start(["openbox"], stdin=subprocess.DEVNULL, stdout=log, stderr=log)
             wait_until(_has_window_manager, "the window manager is there")
