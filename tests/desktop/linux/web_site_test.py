@@ -51,8 +51,9 @@ def each_label_opens_the_address_that_it_shows(bed):
 
             assert browser.arguments() == ["--page", ADDRESS]
 
+        wait_until(lambda: "temphtm.htm" not in os.listdir(bed.home.temporary),
+                   "the page that was made for the question is gone")
         assert program.is_running
-    assert "temphtm.htm" not in os.listdir(bed.home.temporary)
 
 
 def without_a_browser_it_says_so(bed):
