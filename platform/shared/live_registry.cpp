@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "platform/error.h"
 #include "platform/shared/ascii_case.h"
 #include "platform/shared/registry_names.h"
 
@@ -27,6 +28,16 @@ Registry::Value valueOf(const std::string& text) {
   const std::span<const char> withZero(text.c_str(), text.size() + 1);
   const auto bytes = std::as_bytes(withZero);
   return {Registry::Type::string, {bytes.begin(), bytes.end()}};
+}
+
+bool succeeds(const std::function<void()>& deed) {
+  if (!deed) return true;
+  try {
+    deed();
+    return true;
+  } catch (const Error&) {
+    return false;
+  }
 }
 
 }  // namespace
@@ -76,12 +87,19 @@ std::optional<Registry::Value> LiveRegistry::query(Key key, const std::string& n
 
 Registry::Result LiveRegistry::set(Key key, const std::string& name, Type type,
                                    std::span<const std::byte> data) {
-  const Result result = registry_.set(key, name, type, data);
   const LiveValue* live = liveValue(key, name);
-  if (live != nullptr && type == Type::string && result == Result::success) {
+  if (live != nullptr && !succeeds(live->beforeSet)) return Result::accessDenied;
+  const Result result = registry_.set(key, name, type, data);
+  if (live != nullptr && live->written && type == Type::string && result == Result::success) {
     live->written(textOf(data));
   }
   return result;
+}
+
+Registry::Result LiveRegistry::deleteValue(Key key, const std::string& name) {
+  const Result result = registry_.deleteValue(key, name);
+  const LiveValue* live = liveValue(key, name);
+  return live == nullptr || succeeds(live->afterDelete) ? result : Result::accessDenied;
 }
 
 Registry::Result LiveRegistry::deleteKey(Root root, const std::string& path) {

@@ -12,9 +12,8 @@
 namespace zelvane::platform {
 
 // Over any desktop's registry, below the current user. Deleting a live key erases the lists that it
-// stands for, wherever they lie, together with the key itself. What is written as a live value is
-// written into the registry as any, and then told to those whom it concerns. All else is that
-// registry's.
+// stands for, wherever they lie, together with the key itself. A live value is kept in the registry
+// like any other, and whom it concerns is told. All else is that registry's.
 class LiveRegistry : public Registry {
  public:
   struct LiveKey {
@@ -27,12 +26,15 @@ class LiveRegistry : public Registry {
     asWritten,   // what was written, if anything was; otherwise as it stands
   };
 
-  // A text. The functions throw nothing.
+  // The functions that are there are called. Where beforeSet or afterDelete throws an Error, the
+  // answer is accessDenied; the others throw nothing.
   struct LiveValue {
     std::string path;
     std::string name;
-    std::function<void(const std::string& text)> written;  // once it is written
-    std::function<std::optional<std::string>()> present = nullptr;
+    std::function<void()> beforeSet = nullptr;                       // an Error: it is not set
+    std::function<void(const std::string& text)> written = nullptr;  // once a text is set
+    std::function<void()> afterDelete = nullptr;                     // also where there was none
+    std::function<std::optional<std::string>()> present = nullptr;   // a text
     Answers answers = Answers::asWritten;
   };
 
@@ -45,9 +47,7 @@ class LiveRegistry : public Registry {
   void close(Key key) override;
   std::optional<Value> query(Key key, const std::string& name) const override;
   Result set(Key key, const std::string& name, Type type, std::span<const std::byte> data) override;
-  Result deleteValue(Key key, const std::string& name) override {
-    return registry_.deleteValue(key, name);
-  }
+  Result deleteValue(Key key, const std::string& name) override;
 
   // Of a live key that the registry itself does not have: success.
   Result deleteKey(Root root, const std::string& path) override;

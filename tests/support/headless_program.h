@@ -28,7 +28,7 @@
 #include "platform/memory/memory_tray.h"
 #include "platform/memory/memory_window.h"
 #include "platform/shared/live_folders.h"
-#include "platform/shared/mirrored_value.h"
+#include "platform/shared/live_registry.h"
 #include "tests/support/program_without_window.h"
 #include "tests/support/throw_away_environment.h"
 
@@ -51,11 +51,12 @@ class HeadlessDesktop {
   platform::LinuxRegistry hive{environment};
   platform::Ledger ledger = platform::linuxLedger(environment);
   platform::AutostartEntry autostart{environment, identity, ledger};
-  platform::MirroredValue registry{hive,
-                                   {.path = core::Registry::kRunKey,
+  platform::LiveRegistry registry{hive,
+                                  {},
+                                  {{.path = core::Registry::kRunKey,
                                     .name = identity.version().title,
                                     .beforeSet = [this] { autostart.write(); },
-                                    .afterDelete = [this] { autostart.erase(); }}};
+                                    .afterDelete = [this] { autostart.erase(); }}}};
   platform::LinuxProfileFile winIni{environment};
   platform::LinuxSpecialFolders plainFolders;
   platform::LinuxFolderTree plainTree{{}, plainFolders};

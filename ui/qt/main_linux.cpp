@@ -32,7 +32,6 @@
 #include "platform/shared/browsers/live_browser_values.h"
 #include "platform/shared/live_folders.h"
 #include "platform/shared/live_registry.h"
-#include "platform/shared/mirrored_value.h"
 #include "ui/qt/application.h"
 #include "ui/qt/ending_signals.h"
 #include "ui/qt/main_window.h"
@@ -58,11 +57,12 @@ struct LinuxDesktop {
   platform::LinuxRegistry hive{environment};
   platform::Ledger ledger = platform::linuxLedger(environment);
   platform::AutostartEntry autostart{environment, identity, ledger};
-  platform::MirroredValue startupList{hive,
-                                      {.path = core::Registry::kRunKey,
+  platform::LiveRegistry startupList{hive,
+                                     {},
+                                     {{.path = core::Registry::kRunKey,
                                        .name = identity.version().title,
                                        .beforeSet = [this] { autostart.write(); },
-                                       .afterDelete = [this] { autostart.erase(); }}};
+                                       .afterDelete = [this] { autostart.erase(); }}}};
   platform::LinuxProfileFile winIni{environment};
   platform::LinuxSpecialFolders plainFolders{environment};
   platform::LinuxFolderTree plainTree{{}, plainFolders};

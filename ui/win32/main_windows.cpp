@@ -16,7 +16,7 @@
 #include "platform/shared/jump_list_tree.h"
 #include "platform/shared/live_folders.h"
 #include "platform/shared/live_registry.h"
-#include "platform/shared/mirrored_value.h"
+#include "platform/shared/noted_value.h"
 #include "platform/windows/explorer_history.h"
 #include "platform/windows/windows_browser_desktop.h"
 #include "platform/windows/windows_clock.h"
@@ -65,9 +65,10 @@ struct WindowsDesktop {
   platform::WindowsRegistry systemRegistry;
   platform::Ledger ledger =
       platform::windowsLedger(platform::foldersOfUser()["roaming"] + "\\Zelvane");
-  platform::MirroredValue startupList{
+  platform::LiveRegistry startupList{
       systemRegistry,
-      platform::notedValue(ledger, core::Registry::kRunKey, identity.version().title)};
+      {},
+      {platform::notedValue(ledger, core::Registry::kRunKey, identity.version().title)}};
   platform::WindowsProfileFile winIni;
   platform::WindowsSpecialFolders plainFolders{platform::systemFolders([this] { return owner; })};
   platform::WindowsFolderTree plainTree;

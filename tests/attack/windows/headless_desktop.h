@@ -20,7 +20,7 @@
 #include "platform/shared/jump_list_tree.h"
 #include "platform/shared/live_folders.h"
 #include "platform/shared/live_registry.h"
-#include "platform/shared/mirrored_value.h"
+#include "platform/shared/noted_value.h"
 #include "platform/windows/explorer_history.h"
 #include "platform/windows/windows_browser_desktop.h"
 #include "platform/windows/windows_files.h"
@@ -77,9 +77,10 @@ class HeadlessDesktop {
   platform::WindowsSettings settings;
   platform::WindowsRegistry systemRegistry;
   platform::Ledger ledger;
-  platform::MirroredValue startupList{
+  platform::LiveRegistry startupList{
       systemRegistry,
-      platform::notedValue(ledger, core::Registry::kRunKey, identity.version().title)};
+      {},
+      {platform::notedValue(ledger, core::Registry::kRunKey, identity.version().title)}};
   platform::WindowsProfileFile winIni;
   platform::WindowsSpecialFolders plainFolders;
   platform::WindowsFolderTree plainTree;

@@ -1,9 +1,8 @@
-#include "platform/shared/mirrored_value.h"
-
 #include <gtest/gtest.h>
 
 #include "platform/error.h"
 #include "platform/memory/memory_registry.h"
+#include "platform/shared/live_registry.h"
 
 namespace zelvane::platform {
 namespace {
@@ -13,9 +12,10 @@ using Root = Registry::Root;
 
 constexpr auto kList = R"(Software\Start\List)";
 
-class MirroredValueTest : public testing::Test {
+// A value that has to be outside before it is in the registry.
+class ValueOutsideTest : public testing::Test {
  protected:
-  MirroredValueTest() { hive.addKey(Root::currentUser, kList); }
+  ValueOutsideTest() { hive.addKey(Root::currentUser, kList); }
 
   Registry::Key open(const std::string& path = kList) {
     return registry.open(Root::currentUser, path).key;
@@ -38,21 +38,22 @@ class MirroredValueTest : public testing::Test {
   Texts told;
   bool refuses = false;
   MemoryRegistry hive;
-  MirroredValue registry{hive,
-                         {.path = kList,
+  LiveRegistry registry{hive,
+                        {},
+                        {{.path = kList,
                           .name = "Mine",
                           .beforeSet = [this] { tell("set"); },
-                          .afterDelete = [this] { tell("deleted"); }}};
+                          .afterDelete = [this] { tell("deleted"); }}}};
 };
 
-TEST_F(MirroredValueTest, SettingItTellsBeforeItIsSet) {
+TEST_F(ValueOutsideTest, SettingItTellsBeforeItIsSet) {
   EXPECT_EQ(set(open(), "Mine"), Result::success);
 
   EXPECT_EQ(told, Texts{"set while it is missing"});
   EXPECT_EQ(hive.text(Root::currentUser, kList, "Mine"), "new");
 }
 
-TEST_F(MirroredValueTest, DeletingItTellsAfterItIsDeleted) {
+TEST_F(ValueOutsideTest, DeletingItTellsAfterItIsDeleted) {
   hive.put(Root::currentUser, kList, "Mine", "old");
 
   EXPECT_EQ(registry.deleteValue(open(), "Mine"), Result::success);
@@ -60,13 +61,13 @@ TEST_F(MirroredValueTest, DeletingItTellsAfterItIsDeleted) {
   EXPECT_EQ(told, Texts{"deleted while it is missing"});
 }
 
-TEST_F(MirroredValueTest, DeletingOneThatIsMissingTellsAsWell) {
+TEST_F(ValueOutsideTest, DeletingOneThatIsMissingTellsAsWell) {
   EXPECT_EQ(registry.deleteValue(open(), "Mine"), Result::notFound);
 
   EXPECT_EQ(told, Texts{"deleted while it is missing"});
 }
 
-TEST_F(MirroredValueTest, WhatIsRefusedOutsideIsNotSet) {
+TEST_F(ValueOutsideTest, WhatIsRefusedOutsideIsNotSet) {
   refuses = true;
 
   EXPECT_EQ(set(open(), "Mine"), Result::accessDenied);
@@ -74,7 +75,7 @@ TEST_F(MirroredValueTest, WhatIsRefusedOutsideIsNotSet) {
   EXPECT_EQ(hive.text(Root::currentUser, kList, "Mine"), std::nullopt);
 }
 
-TEST_F(MirroredValueTest, WhatIsRefusedOutsideIsDeletedAllTheSame) {
+TEST_F(ValueOutsideTest, WhatIsRefusedOutsideIsDeletedAllTheSame) {
   hive.put(Root::currentUser, kList, "Mine", "old");
   refuses = true;
 
@@ -83,13 +84,13 @@ TEST_F(MirroredValueTest, WhatIsRefusedOutsideIsDeletedAllTheSame) {
   EXPECT_EQ(hive.text(Root::currentUser, kList, "Mine"), std::nullopt);
 }
 
-TEST_F(MirroredValueTest, NamesAreToldApartWithoutRegardToCase) {
+TEST_F(ValueOutsideTest, NamesAreToldApartWithoutRegardToCase) {
   set(open(R"(software\\START\list)"), "MINE");
 
   EXPECT_EQ(told.size(), 1U);
 }
 
-TEST_F(MirroredValueTest, OtherValuesAndOtherKeysMeanNothing) {
+TEST_F(ValueOutsideTest, OtherValuesAndOtherKeysMeanNothing) {
   hive.addKey(Root::localMachine, kList);
 
   set(open(), "Other");
@@ -102,7 +103,7 @@ TEST_F(MirroredValueTest, OtherValuesAndOtherKeysMeanNothing) {
   EXPECT_EQ(hive.text(Root::localMachine, kList, "Mine"), "new");
 }
 
-TEST_F(MirroredValueTest, AKeyThatWasClosedMeansNothing) {
+TEST_F(ValueOutsideTest, AKeyThatWasClosedMeansNothing) {
   const Registry::Key key = open();
   registry.close(key);
 
@@ -111,46 +112,12 @@ TEST_F(MirroredValueTest, AKeyThatWasClosedMeansNothing) {
   EXPECT_EQ(told, Texts{});
 }
 
-TEST_F(MirroredValueTest, AKeyThatWasMadeMeansTheSameAsOneThatWasOpened) {
+TEST_F(ValueOutsideTest, AKeyThatWasMadeMeansTheSameAsOneThatWasOpened) {
   hive.deleteKey(Root::currentUser, kList);
 
   set(registry.create(Root::currentUser, kList).key, "Mine");
 
   EXPECT_EQ(told.size(), 1U);
-}
-
-class NotedValueTest : public testing::Test {
- protected:
-  NotedValueTest() { hive.addKey(Root::currentUser, kList); }
-
-  std::optional<std::string> text;
-  Ledger ledger{[this](const Ledger::Change& change) {
-    if (auto next = change(text)) text = std::move(next);
-  }};
-  MemoryRegistry hive;
-  MirroredValue registry{hive, notedValue(ledger, kList, "Mine")};
-};
-
-TEST_F(NotedValueTest, IsInTheLedgerWhileItIsThere) {
-  const Registry::Key key = registry.open(Root::currentUser, kList).key;
-
-  registry.set(key, "Mine", Registry::Type::string, {});
-  EXPECT_EQ(ledger.entries(),
-            (std::vector<Ledger::Entry>{
-                {Ledger::Kind::registryValue, R"(HKEY_CURRENT_USER\Software\Start\List\Mine)"}}));
-
-  registry.deleteValue(key, "Mine");
-  EXPECT_TRUE(ledger.entries().empty());
-}
-
-TEST_F(NotedValueTest, IsNotSetWhereTheLedgerIsNotUnderstood) {
-  text = "Zelvane ledger 2\n";
-  const Registry::Key key = registry.open(Root::currentUser, kList).key;
-
-  EXPECT_EQ(registry.set(key, "Mine", Registry::Type::string, {}), Result::accessDenied);
-
-  EXPECT_EQ(hive.value(Root::currentUser, kList, "Mine"), std::nullopt);
-  EXPECT_EQ(text, "Zelvane ledger 2\n");
 }
 
 }  // namespace
