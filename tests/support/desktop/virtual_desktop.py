@@ -11,7 +11,6 @@ import struct
 import subprocess
 import sys
 import tempfile
-import time
 import urllib.parse
 
 from desktop import private_mounts, processes
@@ -124,9 +123,9 @@ class VirtualDesktop:
             lambda out: ["dbus-daemon", "--session", "--nofork", f"--print-address={out}",
                          f"--address=unix:path={urllib.parse.quote(str(home.runtime))}/bus"], home, log)
         # From here on this process lives on the desktop too, not in the caller's home.
+        environment = self.environment(home)
         os.environ.clear()
-        os.environ.update(self.environment(home))
-        time.tzset()  # its clock is theirs, too
+        os.environ.update(environment)
         if self._wants_window_manager:
             processes.start(["openbox"], stdin=subprocess.DEVNULL, stdout=log, stderr=log)
             wait_until(_has_window_manager, "the window manager is there")
