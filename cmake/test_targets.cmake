@@ -1,8 +1,8 @@
-# zelvane_test(name SOURCES file... [DEPENDS target...])
+# zelvane_test(name SOURCES file... [DEPENDS target...] [HEADER target])
 #
-# A test program in <build>/tests. Its tests are compiled into it and never into a static library: of
-# those the linker drops what nobody calls, and nobody calls a test. A program that needs a main() of
-# its own brings one.
+# A test program in <build>/tests; HEADER owns the precompiled header, which is GoogleTest's otherwise.
+# Its tests are compiled into it and never into a static library: of those the linker drops what nobody
+# calls, and nobody calls a test. A program that needs a main() of its own brings one.
 
 # GoogleTest from the distribution's sources where they are, so that each compiler builds its own.
 block()
@@ -18,19 +18,27 @@ endblock()
 
 # A precompiled header serves only those who are compiled like its owner, so all of them are compiled
 # as if for a shared library; otherwise CMake gives programs another flag than it gives the owner.
+# What is tested is optimized, the tests are not: that would take twice as long to compile.
 add_library(zelvane_test_options INTERFACE)
-target_compile_options(zelvane_test_options INTERFACE -fPIC)
+target_compile_options(zelvane_test_options INTERFACE -fPIC -O0)
 target_include_directories(zelvane_test_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_link_libraries(zelvane_test_options INTERFACE zelvane_build_options GTest::gtest)
 
 file(WRITE ${PROJECT_BINARY_DIR}/tests/precompiled.cpp "")
-add_library(zelvane_test_header OBJECT ${PROJECT_BINARY_DIR}/tests/precompiled.cpp)
-set_target_properties(zelvane_test_header PROPERTIES POSITION_INDEPENDENT_CODE OFF)
-target_link_libraries(zelvane_test_header PRIVATE zelvane_test_options)
-target_precompile_headers(zelvane_test_header PRIVATE <gtest/gtest.h>)
+
+# zelvane_test_header(name HEADERS header... [DEPENDS target...])
+function(zelvane_test_header name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS;DEPENDS")
+  add_library(${name} OBJECT ${PROJECT_BINARY_DIR}/tests/precompiled.cpp)
+  set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE OFF)
+  target_link_libraries(${name} PRIVATE zelvane_test_options ${arg_DEPENDS})
+  target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
+endfunction()
+
+zelvane_test_header(zelvane_gtest_header HEADERS <gtest/gtest.h>)
 
 function(zelvane_test name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;DEPENDS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADER" "SOURCES;DEPENDS")
   if(arg_UNPARSED_ARGUMENTS)
     message(FATAL_ERROR "zelvane_test(${name}): what is ${arg_UNPARSED_ARGUMENTS}?")
   endif()
@@ -45,5 +53,8 @@ function(zelvane_test name)
                                            ${PROJECT_BINARY_DIR}/tests)
   target_link_libraries(${name} PRIVATE zelvane_test_options zelvane_test_support ${arg_DEPENDS}
                                         GTest::gtest_main)
-  target_precompile_headers(${name} REUSE_FROM zelvane_test_header)
+  if(NOT arg_HEADER)
+    set(arg_HEADER zelvane_gtest_header)
+  endif()
+  target_precompile_headers(${name} REUSE_FROM ${arg_HEADER})
 endfunction()
