@@ -11,6 +11,7 @@
 
 #include "platform/windows/wide_text.h"
 #include "tests/attack/kills/users_steps.h"
+#include "tests/attack/windows/killed_everywhere.h"
 #include "tests/attack/windows/stories.h"
 #include "tests/attack/windows/world_values.h"
 #include "tests/support/throw_away_folder.h"
@@ -139,26 +140,9 @@ class KilledProgram : public testing::Test {
     EXPECT_EQ(neitherBeforeNorAfter(storedIn(world), last, last), Texts{});
   }
 
-  // Calls `judge` with each world in which a program was killed, each moment in turn.
-  void killEverywhere(const Story& story, const Prepare& prepare,
-                      const std::function<void(const World&, const Life&, Side)>& judge) {
-    const Life whole = live(story, prepared(prepare), std::nullopt);
-    ASSERT_GT(whole.steps, 0U);
-    ASSERT_GE(whole.calls.size(), whole.steps * 3);
-    for (std::size_t call = 1; call <= whole.calls.size() && !HasFailure(); ++call) {
-      for (const Side side : {Side::before, Side::after}) {
-        SCOPED_TRACE((side == Side::before ? "before " : "after ") + std::to_string(call) + ": " +
-                     whole.calls[call - 1]);
-        const World world = prepared(prepare);
-
-        const Life life = live(story, world, Moment{side, call});
-
-        ASSERT_TRUE(life.killed);
-        ASSERT_EQ(life.calls.size(), call);
-        ASSERT_LT(life.steps, whole.steps);
-        judge(world, life, side);
-      }
-    }
+  void killEverywhere(const Story& story, const Prepare& prepare, const Judge& judge) {
+    test::killEverywhere(
+        story, 1, [&] { return prepared(prepare); }, judge);
   }
 
   // But for one before it has the mark with which a kill deletes it, and between losing that and

@@ -4,6 +4,7 @@
 
 #include <windows.h>
 
+#include "cleaner/erasure.h"
 #include "platform/windows/wide_text.h"
 #include "tests/attack/kills/users_steps.h"
 
@@ -21,6 +22,19 @@ const Story kStart{"start", [](const World& world, const std::function<void()>& 
                      HeadlessProgram(world).start();
                      done();
                    }};
+
+const Story kErase{
+    "erase", [](const World& world, const std::function<void()>& done) {
+      using platform::SpecialFolder;
+      HeadlessDesktop desktop(world);
+      for (const SpecialFolder special :
+           {SpecialFolder::history, SpecialFolder::cookies, SpecialFolder::internetCache}) {
+        const auto path = desktop.folders.path(special);
+        if (path) cleaner::eraseContents(desktop.folders, desktop.pump, *path);
+      }
+      desktop.browserTraces.eraseTyped();
+      done();
+    }};
 
 const Story kReplaceFile{"replace file", [](const World& world, const std::function<void()>& done) {
                            platform::WindowsFiles files;
@@ -43,6 +57,8 @@ const Story kFail{"fail", [](const World&, const std::function<void()>&) {
                     throw std::runtime_error("expected here");
                   }};
 
-std::vector<Story> allStories() { return {kUse, kStart, kReplaceFile, kMakeFolders, kFail}; }
+std::vector<Story> allStories() {
+  return {kUse, kStart, kErase, kReplaceFile, kMakeFolders, kFail};
+}
 
 }  // namespace zelvane::test

@@ -13,6 +13,9 @@ extern const Story kUse;
 // The first step of that.
 extern const Story kStart;
 
+// What the browsers in the world's home keep is erased; one step.
+extern const Story kErase;
+
 // A file of the world, "target", is written anew as "new content"; one step.
 extern const Story kReplaceFile;
 
