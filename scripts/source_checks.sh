@@ -12,7 +12,7 @@ everySource() {
 changedSources() {
   local changed
   if [[ -n ${CI-} ]]; then
-    changedLast | head -n 100
+    changedLast | head -n 60
     return
   fi
   changed=$(here diff --name-only HEAD && here ls-files --others --exclude-standard) || changed=
