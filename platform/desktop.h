@@ -49,4 +49,30 @@ struct Desktop {
   Programs& programs;
 };
 
+// Of anything that has a tenant of each port under the port's name here. They are borrowed.
+template <typename Tenants>
+Desktop portsOf(Tenants& tenants) {
+  return {.identity = tenants.identity,
+          .machine = tenants.machine,
+          .clock = tenants.clock,
+          .settings = tenants.settings,
+          .registry = tenants.registry,
+          .winIni = tenants.winIni,
+          .specialFolders = tenants.specialFolders,
+          .folderTree = tenants.folderTree,
+          .files = tenants.files,
+          .recycleBin = tenants.recycleBin,
+          .clipboard = tenants.clipboard,
+          .dialogs = tenants.dialogs,
+          .window = tenants.window,
+          .pump = tenants.pump,
+          .instance = tenants.instance,
+          .process = tenants.process,
+          .notifications = tenants.notifications,
+          .tray = tenants.tray,
+          .leftTraces = tenants.leftTraces,
+          .sound = tenants.sound,
+          .programs = tenants.programs};
+}
+
 }  // namespace zelvane::platform

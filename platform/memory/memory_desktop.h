@@ -67,29 +67,7 @@ struct MemoryDesktop {
   MemoryPrograms programs;
 
   // They live as long as this desktop.
-  Desktop ports() {
-    return {.identity = identity,
-            .machine = machine,
-            .clock = clock,
-            .settings = settings,
-            .registry = registry,
-            .winIni = winIni,
-            .specialFolders = specialFolders,
-            .folderTree = folderTree,
-            .files = files,
-            .recycleBin = recycleBin,
-            .clipboard = clipboard,
-            .dialogs = dialogs,
-            .window = window,
-            .pump = pump,
-            .instance = instance,
-            .process = process,
-            .notifications = notifications,
-            .tray = tray,
-            .leftTraces = leftTraces,
-            .sound = sound,
-            .programs = programs};
-  }
+  Desktop ports() { return portsOf(*this); }
 };
 
 }  // namespace zelvane::platform

@@ -62,6 +62,8 @@ class HeadlessDesktop {
   platform::LinuxFolderTree plainTree{{}, plainFolders};
   platform::RecentlyUsed recentlyUsed{environment};
   platform::LiveFolders folders{plainFolders, plainTree, {recentlyUsed}};
+  const platform::SpecialFolders& specialFolders = folders;
+  platform::FolderTree& folderTree = folders;
   platform::LinuxFiles files;
   platform::LinuxRecycleBin recycleBin;
   platform::LinuxSingleInstance instance{environment};
@@ -78,29 +80,7 @@ class HeadlessDesktop {
   platform::MemoryTray tray;
   platform::LeftTraces leftTraces;
 
-  platform::Desktop ports() {
-    return {.identity = identity,
-            .machine = machine,
-            .clock = clock,
-            .settings = settings,
-            .registry = registry,
-            .winIni = winIni,
-            .specialFolders = folders,
-            .folderTree = folders,
-            .files = files,
-            .recycleBin = recycleBin,
-            .clipboard = clipboard,
-            .dialogs = dialogs,
-            .window = window,
-            .pump = pump,
-            .instance = instance,
-            .process = process,
-            .notifications = notifications,
-            .tray = tray,
-            .leftTraces = leftTraces,
-            .sound = sound,
-            .programs = programs};
-  }
+  platform::Desktop ports() { return platform::portsOf(*this); }
 };
 
 using HeadlessProgram = ProgramWithoutWindow<HeadlessDesktop>;

@@ -84,6 +84,8 @@ struct LinuxDesktop {
         [this] { runHistory.erase(); }}},
       platform::liveBrowserValues(browserSettings, platform::LiveRegistry::Answers::asItStands)};
   platform::LiveFolders folders{plainFolders, plainTree, {recentlyUsed, browserTraces}};
+  const platform::SpecialFolders& specialFolders = folders;
+  platform::FolderTree& folderTree = folders;
   platform::LinuxRecycleBin recycleBin{environment};
   platform::LinuxSingleInstance instance{environment};
   platform::LinuxProcessEnd process;
@@ -95,29 +97,7 @@ struct LinuxDesktop {
   qt::QtEventPump pump;
   qt::QtTray tray;
 
-  platform::Desktop ports() {
-    return {.identity = identity,
-            .machine = machine,
-            .clock = clock,
-            .settings = settings,
-            .registry = registry,
-            .winIni = winIni,
-            .specialFolders = folders,
-            .folderTree = folders,
-            .files = files,
-            .recycleBin = recycleBin,
-            .clipboard = clipboard,
-            .dialogs = dialogs,
-            .window = window,
-            .pump = pump,
-            .instance = instance,
-            .process = process,
-            .notifications = notifications,
-            .tray = tray,
-            .leftTraces = leftTraces,
-            .sound = sound,
-            .programs = programs};
-  }
+  platform::Desktop ports() { return platform::portsOf(*this); }
 };
 
 int run(char** arguments) {

@@ -94,6 +94,8 @@ struct WindowsDesktop {
       platform::liveBrowserValues(browserSettings, platform::LiveRegistry::Answers::asWritten)};
   platform::JumpListTree jumpLists{plainFolders, plainTree, files};
   platform::LiveFolders folders{plainFolders, jumpLists, {browserTraces}};
+  const platform::SpecialFolders& specialFolders = folders;
+  platform::FolderTree& folderTree = folders;
   platform::WindowsRecycleBin recycleBin{[this] { return owner; }};
   platform::WindowsSingleInstance instance;
   platform::WindowsProcessEnd process;
@@ -105,29 +107,7 @@ struct WindowsDesktop {
   win32::Win32EventPump pump;
   win32::Win32Tray tray;
 
-  platform::Desktop ports() {
-    return {.identity = identity,
-            .machine = machine,
-            .clock = clock,
-            .settings = settings,
-            .registry = registry,
-            .winIni = winIni,
-            .specialFolders = folders,
-            .folderTree = folders,
-            .files = files,
-            .recycleBin = recycleBin,
-            .clipboard = clipboard,
-            .dialogs = dialogs,
-            .window = window,
-            .pump = pump,
-            .instance = instance,
-            .process = process,
-            .notifications = notifications,
-            .tray = tray,
-            .leftTraces = leftTraces,
-            .sound = sound,
-            .programs = programs};
-  }
+  platform::Desktop ports() { return platform::portsOf(*this); }
 };
 
 int run() {

@@ -101,6 +101,8 @@ class HeadlessDesktop {
                                     [this] { explorer.eraseRun(); }}}};
   platform::JumpListTree jumpLists{plainFolders, plainTree, files};
   platform::LiveFolders folders{plainFolders, jumpLists, {browserTraces}};
+  const platform::SpecialFolders& specialFolders = folders;
+  platform::FolderTree& folderTree = folders;
   platform::WindowsRecycleBin recycleBin{[] { return nullptr; }};
   platform::WindowsSingleInstance instance;
   platform::MemoryMachine machine;
@@ -115,29 +117,7 @@ class HeadlessDesktop {
   platform::WindowsPrograms programs{[] { return HWND(); }};
   platform::MemoryTray tray;
 
-  platform::Desktop ports() {
-    return {.identity = identity,
-            .machine = machine,
-            .clock = clock,
-            .settings = settings,
-            .registry = registry,
-            .winIni = winIni,
-            .specialFolders = folders,
-            .folderTree = folders,
-            .files = files,
-            .recycleBin = recycleBin,
-            .clipboard = clipboard,
-            .dialogs = dialogs,
-            .window = window,
-            .pump = pump,
-            .instance = instance,
-            .process = process,
-            .notifications = notifications,
-            .tray = tray,
-            .leftTraces = leftTraces,
-            .sound = sound,
-            .programs = programs};
-  }
+  platform::Desktop ports() { return platform::portsOf(*this); }
 
  private:
   // "special-8" are the recent documents; the number is the shell's.
