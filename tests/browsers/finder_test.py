@@ -4,6 +4,7 @@
 import base64
 import os
 import pathlib
+import shutil
 import sqlite3
 import sys
 import tempfile
@@ -293,6 +294,24 @@ class TheFinder(unittest.TestCase):
             found = finder.Glass(self.bed.manifest).search(folder, workers=1)
 
         self.assertEqual(len(found.not_read), 1)
+
+    def test_what_a_browser_takes_away_meanwhile_is_not_there(self):
+        class WhileABrowserIsAtWork(finder.Glass):
+            def _around(self, path, name):
+                for other in {"one", "other", "folder"} - {name, name.split("/")[0]}:
+                    shutil.rmtree(folder / other, ignore_errors=True)
+                    (folder / other).unlink(missing_ok=True)
+                return super()._around(path, name)
+
+        with tempfile.TemporaryDirectory() as name:
+            folder = pathlib.Path(name)
+            (folder / "folder").mkdir()
+            for file in ("one", "other", "folder/third"):
+                (folder / file).write_text("text", "utf-8")
+
+            found = WhileABrowserIsAtWork(tokens.Manifest()).search(folder, workers=1)
+
+            self.assertEqual(found.not_read, [])
 
     def test_a_damaged_database_is_searched_byte_by_byte(self):
         token = tokens.new("damaged", tokens.HISTORY)

@@ -2,6 +2,7 @@
 written in any way of `views`, wrapped in any way of `packed`, `leveldb` and `sqlite_store`."""
 
 import concurrent.futures
+import contextlib
 import dataclasses
 import hashlib
 import os
@@ -58,15 +59,17 @@ class Glass:
                         if token.text in address.split("/")[2]})
 
     def search(self, folder, workers=os.cpu_count()):
-        """All hits in the folder, and what could not be read. Follows no link."""
-        hits, files, not_read = set(), [], []
+        """All hits in the folder, and what could not be read. Follows no link. What a browser that
+        is at work takes away meanwhile is not there."""
+        hits, sizes, not_read = set(), {}, []
         for path in _walk(folder, not_read):
             name = os.path.relpath(path, folder)
-            hits |= self._around(path, name)
-            if not os.path.islink(path) and os.path.isfile(path):
-                files.append((path, name))
+            with contextlib.suppress(FileNotFoundError):
+                hits |= self._around(path, name)
+                if not os.path.islink(path) and os.path.isfile(path):
+                    sizes[path, name] = os.lstat(path).st_size
         # The largest first, so that none is left over for the end.
-        files.sort(key=lambda file: -os.lstat(file[0]).st_size)
+        files = sorted(sizes, key=lambda file: -sizes[file])
         if workers == 1 or len(files) < 20:
             results = [self._read(file) for file in files]
         else:
@@ -111,6 +114,8 @@ class Glass:
             look = _Look(self, name)
             look.into_file(path, data)
             return look.hits, look.not_read
+        except FileNotFoundError:
+            return set(), []
         except OSError as error:
             return set(), [f"{name}: {error.strerror}"]
 
@@ -188,8 +193,11 @@ def _may_be_packed(cell):
 
 
 def _walk(folder, not_read):
-    for top, folders, files in os.walk(
-            folder, onerror=lambda error: not_read.append(f"{error.filename}: {error.strerror}")):
+    def refused(error):
+        if not isinstance(error, FileNotFoundError):
+            not_read.append(f"{error.filename}: {error.strerror}")
+
+    for top, folders, files in os.walk(folder, onerror=refused):
         for name in folders + files:
             yield os.path.join(top, name)
 
