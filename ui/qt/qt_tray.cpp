@@ -91,6 +91,9 @@ void QtTray::follow() {
   if (icon_ && !icon_->isVisible()) {
     showRecord();
     icon_->show();
+    if (!kind_) {
+      learnKind();
+    }
   }
   const bool wasShown = shown_;
   shown_ = hasPlace();
@@ -102,23 +105,23 @@ void QtTray::follow() {
 // A panel that can do both has its items' menus by a way of its own, and better pictures; so
 // nothing is settled before it is known whether there is one.
 void QtTray::settle() {
-  if (!notifierHost_->isThere()) {
-    return;
-  }
-  if (*notifierHost_->isThere()) {
-    kind_ = Kind::notifier;
-  } else if (embeddingTray_->isThere()) {
-    kind_ = Kind::embedded;
-  } else {
+  if (!notifierHost_->isThere() || (!*notifierHost_->isThere() && !embeddingTray_->isThere())) {
     return;
   }
   icon_ = std::make_unique<QSystemTrayIcon>();
-  if (kind_ == Kind::notifier) {
-    icon_->setContextMenu(menu_);
-  }
   QObject::connect(
       icon_.get(), &QSystemTrayIcon::activated, icon_.get(),
       [this](QSystemTrayIcon::ActivationReason reason) { report(reason); }, Qt::QueuedConnection);
+}
+
+// The toolkit looks for a panel by itself, and finds more than was known here where one that does
+// both has just come. It does not say what it has settled on, but where a notifier item is seen is
+// the panel's affair alone, while an embedded window has a place.
+void QtTray::learnKind() {
+  kind_ = icon_->geometry().isNull() ? Kind::notifier : Kind::embedded;
+  if (kind_ == Kind::notifier) {
+    icon_->setContextMenu(menu_);
+  }
 }
 
 bool QtTray::hasPlace() const {

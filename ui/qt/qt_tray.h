@@ -40,6 +40,7 @@ class QtTray : public platform::Tray {
   void lookForPanels();
   void follow();
   void settle();
+  void learnKind();
   bool hasPlace() const;
   void showRecord();
   void report(QSystemTrayIcon::ActivationReason reason) const;

@@ -5,34 +5,11 @@ import subprocess
 
 from support import checks
 
-from desktop import processes
+from desktop.embedding_panel import EmbeddingPanel
 from desktop.waiting import PATIENCE, wait_until
 from desktop.window import TITLE
 
 LEFT, MIDDLE, RIGHT = "1", "2", "3"
-
-
-class EmbeddingPanel:
-    """A real one, in the upper right corner."""
-
-    def __init__(self):
-        self._process = None
-
-    def __enter__(self):
-        self.start()
-        return self
-
-    def __exit__(self, *reason):
-        self.stop()
-
-    def start(self):
-        self._process = processes.start(
-            ["trayer", "--edge", "top", "--align", "right", "--widthtype", "request",
-             "--height", "24"],
-            stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-
-    def stop(self):
-        processes.end(self._process)
 
 
 def the_icon_is_there(bed):

@@ -6,6 +6,7 @@ import subprocess
 
 from support import checks
 
+from desktop.embedding_panel import EmbeddingPanel
 from desktop.memory import share_of
 from desktop.tray_host import TrayHost
 from desktop.waiting import wait_until
@@ -38,7 +39,7 @@ def the_close_box_hides_the_window_and_the_icon_stays(bed):
 
         window.close()
 
-        wait_until(lambda: not is_known_to_the_window_manager(window), "the window is hidden")
+        wait_until(lambda: not window.has_task_button, "the window is hidden")
         assert panel.tips() == [TITLE]
         assert program.is_running
 
@@ -134,12 +135,27 @@ def a_panel_that_comes_later_gets_the_icon(bed):
     with bed.start() as program:
         window = program.window()
         window.close()
-        assert is_known_to_the_window_manager(window)
+        assert window.has_task_button
 
         with TrayHost() as panel:
             wait_for_the_icon(panel)
             hide(window)
             panel.activate()
+            wait_until(lambda: window.is_on_screen, "the window is back on the screen")
+
+
+def a_panel_that_embeds_icons_before_it_shows_items_gets_one_that_can_be_used(bed):
+    """Some do both, and what a program knows of the one way may be out of date when the other
+    comes."""
+    with TrayHost(hesitant=True) as panel, bed.start() as program:
+        window = program.window()
+        with EmbeddingPanel():
+            wait_for_the_icon(panel)
+            assert panel.menu() == MENU
+            hide(window)
+
+            panel.activate()
+
             wait_until(lambda: window.is_on_screen, "the window is back on the screen")
 
 
@@ -149,7 +165,7 @@ def a_hidden_window_whose_panel_goes_is_within_reach_again(bed):
 
         panel.stop()
 
-        wait_until(lambda: is_known_to_the_window_manager(window), "the window has a task button")
+        wait_until(lambda: window.has_task_button, "the window has a task button")
         assert not window.is_on_screen
         window.come_forward()
         wait_until(lambda: window.is_on_screen, "the window is back on the screen")
@@ -194,7 +210,7 @@ def wait_for_the_icon(panel):
 
 def hide(window):
     window.close()
-    wait_until(lambda: not is_known_to_the_window_manager(window), "the window is hidden")
+    wait_until(lambda: not window.has_task_button, "the window is hidden")
 
 
 def hide_once_there(program, panel):
@@ -202,12 +218,6 @@ def hide_once_there(program, panel):
     wait_for_the_icon(panel)
     hide(window)
     return window
-
-
-def is_known_to_the_window_manager(window):
-    """A hidden window is not; a minimised one is, and has a button in the task bar."""
-    return subprocess.run(["xdotool", "get_desktop_for_window", str(window.number)],
-                          stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode == 0
 
 
 def make_unwritable(file):
@@ -238,6 +248,7 @@ checks.run(
     the_exit_button_takes_the_icon_along,
     a_second_start_shows_no_second_icon,
     a_panel_that_comes_later_gets_the_icon,
+    a_panel_that_embeds_icons_before_it_shows_items_gets_one_that_can_be_used,
     a_hidden_window_whose_panel_goes_is_within_reach_again,
     a_panel_that_restarts_twenty_times_shows_one_icon,
     closing_to_the_icon_and_back_a_hundred_times_leaves_one_icon,

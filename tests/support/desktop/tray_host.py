@@ -21,9 +21,12 @@ SECONDS_FOR_AN_ANSWER = 10
 
 
 class TrayHost:
-    """One panel. Every question is answered with what is so now."""
+    """One panel. Every question is answered with what is so now. A hesitant one tells the first that
+    asks whether items are shown that they are not, as one that has only just come; and all once more
+    when that has changed."""
 
-    def __init__(self):
+    def __init__(self, hesitant=False):
+        self._hesitant = hesitant
         self._process = None
 
     def __enter__(self):
@@ -35,7 +38,8 @@ class TrayHost:
 
     def start(self):
         """Comes to the desktop; from its return on programs find it."""
-        self._process = processes.start(["/usr/bin/python3", "-B", __file__],
+        self._process = processes.start(["/usr/bin/python3", "-B", __file__,
+                                         *(["hesitant"] if self._hesitant else [])],
                                         stdin=subprocess.PIPE, stdout=subprocess.PIPE, text=True)
         self._process.stdout.readline()
 
@@ -95,6 +99,7 @@ def serve():
       </interface></node>""").interfaces[0]
     bus = Gio.bus_get_sync(Gio.BusType.SESSION)
     items = []  # pairs of a bus name and a path
+    answers_to_come = [False, True] if "hesitant" in sys.argv else []
 
     def forget(name):
         items[:] = [item for item in items if item[0] != name]
@@ -109,10 +114,16 @@ def serve():
                                                  lambda _bus, name: forget(name))
         invocation.return_value(None)
 
+    def shows_items():
+        if len(answers_to_come) == 1:
+            bus.emit_signal(None, WATCHER_PATH, WATCHER, "StatusNotifierHostRegistered", None)
+        return answers_to_come.pop(0) if answers_to_come else True
+
     def on_get(_bus, _sender, _path, _interface, name):
+        if name == "IsStatusNotifierHostRegistered":
+            return GLib.Variant("b", shows_items())
         return {"RegisteredStatusNotifierItems":
                 GLib.Variant("as", [name + path for name, path in items]),
-                "IsStatusNotifierHostRegistered": GLib.Variant("b", True),
                 "ProtocolVersion": GLib.Variant("i", 0)}[name]
 
     def call(name, path, interface, method, arguments=None):

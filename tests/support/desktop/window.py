@@ -163,6 +163,14 @@ class Window:
         return bool(self._numbers("--onlyvisible"))
 
     @property
+    def has_task_button(self):
+        """A hidden window is unknown to the window manager; a minimised one is known, and has a
+        button in the task bar."""
+        return subprocess.run(["xdotool", "get_desktop_for_window", str(self.number)],
+                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                              timeout=PATIENCE).returncode == 0
+
+    @property
     def number(self):
         """The display's number of the window, which it also has while it is minimised."""
         return wait_for(self._numbers, "the window is known to the display")[-1]
