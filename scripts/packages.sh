@@ -22,6 +22,7 @@ display       xauth               command:xauth                      closes it t
 display       openbox             command:openbox                    a window manager for it
 display       xdotool             command:xdotool                    moves a pointer, types
 display       trayer              command:trayer                     a panel that embeds icons
+display       xfce4-panel         command:xfce4-panel                a panel that draws icons and menus itself
 display       xclip               command:xclip                      reads and fills its clipboard
 display       dbus                command:dbus-run-session           a session bus that ends with the run
 display       dbus-x11            command:dbus-launch                tells programs of the bus by the display

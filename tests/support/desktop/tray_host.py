@@ -21,9 +21,8 @@ SECONDS_FOR_AN_ANSWER = 10
 
 
 class TrayHost:
-    """One panel. Every question is answered with what is so now. A hesitant one tells the first that
-    asks whether items are shown that they are not, as one that has only just come; and all once more
-    when that has changed."""
+    """One panel. Every question is answered with what is so now. A hesitant one has only just come:
+    whether it shows items it denies once, and when asked again it tells all programs that it does."""
 
     def __init__(self, hesitant=False):
         self._hesitant = hesitant
@@ -99,7 +98,7 @@ def serve():
       </interface></node>""").interfaces[0]
     bus = Gio.bus_get_sync(Gio.BusType.SESSION)
     items = []  # pairs of a bus name and a path
-    answers_to_come = [False, True] if "hesitant" in sys.argv else []
+    hesitates, questions = "hesitant" in sys.argv, 0
 
     def forget(name):
         items[:] = [item for item in items if item[0] != name]
@@ -115,9 +114,11 @@ def serve():
         invocation.return_value(None)
 
     def shows_items():
-        if len(answers_to_come) == 1:
+        nonlocal questions
+        questions += 1
+        if hesitates and questions == 2:
             bus.emit_signal(None, WATCHER_PATH, WATCHER, "StatusNotifierHostRegistered", None)
-        return answers_to_come.pop(0) if answers_to_come else True
+        return questions > 1 or not hesitates
 
     def on_get(_bus, _sender, _path, _interface, name):
         if name == "IsStatusNotifierHostRegistered":
