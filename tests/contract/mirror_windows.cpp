@@ -284,6 +284,21 @@ TEST_F(Win32MirrorTest, PressingIntoAPickerAndClosingItsCalendarAreToldThoughIts
   EXPECT_EQ(edits.times, 0);
 }
 
+TEST_F(Win32MirrorTest, TheArrowsInAPickerAreGreyedWithIt) {
+  controls::DatePicker control(page, "dtpScheduleTime", controls::DatePicker::Kind::time);
+  control.setEnabled(false);
+  const auto& picker = make<win32::DatePickerWindow>(control);
+  const HWND arrows = FindWindowExW(picker.handle(), nullptr, UPDOWN_CLASSW, nullptr);
+  ASSERT_NE(arrows, nullptr);
+  EXPECT_FALSE(IsWindowEnabled(arrows));
+
+  control.setEnabled(true);
+  EXPECT_TRUE(IsWindowEnabled(arrows));
+
+  control.setEnabled(false);
+  EXPECT_FALSE(IsWindowEnabled(arrows));
+}
+
 TEST_F(Win32MirrorTest, TheArrowsCountTheirBox) {
   controls::TextBox hours(page, "txtHours", "2");
   controls::UpDown control(page, "udnHours", hours, 0, 23);

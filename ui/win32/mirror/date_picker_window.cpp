@@ -46,6 +46,7 @@ DatePickerWindow::DatePickerWindow(controls::DatePicker& control, Pane& parent)
   if (control.kind() == Kind::time) {
     whenMade([this] {
       SendMessageW(handle(), DTM_SETFORMATW, 0, reinterpret_cast<LPARAM>(L"HH:mm:ss"));
+      greyParts();
     });
   }
   mirrorControl(control, *this);
@@ -57,6 +58,15 @@ void DatePickerWindow::showControl() {
   SendMessageW(handle(), DTM_SETSYSTEMTIME, GDT_VALID, reinterpret_cast<LPARAM>(&field));
   if (!control_.value()) {
     SendMessageW(handle(), DTM_SETSYSTEMTIME, GDT_NONE, reinterpret_cast<LPARAM>(&field));
+  }
+}
+
+// The arrows, and on some systems the box, are windows of their own, which may not grey by
+// themselves.
+void DatePickerWindow::greyParts() const {
+  for (HWND part = GetWindow(handle(), GW_CHILD); part != nullptr;
+       part = GetWindow(part, GW_HWNDNEXT)) {
+    EnableWindow(part, isUsable() ? TRUE : FALSE);
   }
 }
 
@@ -80,6 +90,9 @@ Size DatePickerWindow::natural() const {
 LRESULT DatePickerWindow::onMessage(UINT message, WPARAM word, LPARAM value) {
   if (message == WM_LBUTTONDOWN) {
     control_.click();
+  }
+  if (message == WM_ENABLE) {
+    greyParts();
   }
   return Window::onMessage(message, word, value);
 }

@@ -19,6 +19,7 @@ class DatePickerWindow : public Window {
 
  private:
   void showControl();
+  void greyParts() const;
   platform::LocalTime edited(const SYSTEMTIME& field) const;
 
   controls::DatePicker& control_;
