@@ -87,18 +87,6 @@ TEST_F(Win32TimerTest, ADisabledTimerDoesNotTick) {
   EXPECT_EQ(ticks.times, 0);
 }
 
-TEST_F(Win32TimerTest, WhileNobodySeesItsWindowItTicksFourTimesASecondAtMost) {
-  form.setState(controls::Form::State::minimised);
-  controls::Timer control(page, "tmrSchedule", 10ms, true);
-  const Count ticks(control.ticked);
-  const auto start = Clock::now();
-  window.make<win32::TimerMirror>(control, boxes, form);
-
-  wait([&] { return ticks.times == 2; });
-
-  EXPECT_GE(Clock::now() - start, 2 * 250ms);
-}
-
 TEST_F(Win32TimerTest, WhileNobodySeesItsWindowItStillTicksWithinEachSecond) {
   form.setVisible(false);
   controls::Timer control(page, "tmrSchedule", 10ms, true);
@@ -111,6 +99,21 @@ TEST_F(Win32TimerTest, WhileNobodySeesItsWindowItStillTicksWithinEachSecond) {
   wait([&] { return passed.times == 1; });
 
   EXPECT_GE(ticks.times, 1);
+}
+
+TEST_F(Win32TimerTest, WhileNobodySeesItsWindowOneTickInEachSecondOfTheClockIsEnough) {
+  form.setState(controls::Form::State::minimised);
+  controls::Timer control(page, "tmrSchedule", 10ms, true);
+  controls::Timer judge(page, "tmrJudge", 1500ms, true);
+  const Count ticks(control.ticked);
+  const Count passed(judge.ticked);
+  window.make<win32::TimerMirror>(control, boxes, form);
+  window.make<win32::TimerMirror>(judge, boxes, form);
+
+  wait([&] { return passed.times == 1; });
+
+  EXPECT_GE(ticks.times, 2);
+  EXPECT_LE(ticks.times, 4);
 }
 
 TEST_F(Win32TimerTest, WhenItsWindowIsSeenAgainItWaitsNoLongerThanItsInterval) {
@@ -131,16 +134,18 @@ TEST_F(Win32TimerTest, WhenItsWindowIsSeenAgainItWaitsNoLongerThanItsInterval) {
 TEST_F(Win32TimerTest, ANewCaptionOfItsWindowDoesNotMakeItWaitAnew) {
   form.setState(controls::Form::State::minimised);
   controls::Timer control(page, "tmrSchedule", 10ms, true);
-  controls::Timer caption(page, "tmrCaption", 300ms, true);
+  controls::Form seen(page, "frmSeen", "");
+  seen.setVisible(true);
+  controls::Timer caption(page, "tmrCaption", 100ms, true);
   const Count ticks(control.ticked);
   const Count passed(caption.ticked);
   caption.ticked.connect([this] { form.setCaption(form.caption() + "."); });
   window.make<win32::TimerMirror>(control, boxes, form);
-  window.make<win32::TimerMirror>(caption, boxes, form);
+  window.make<win32::TimerMirror>(caption, boxes, seen);
 
-  wait([&] { return passed.times == 2; });
+  wait([&] { return passed.times == 4; });
 
-  EXPECT_GE(ticks.times, 2);
+  EXPECT_GE(ticks.times, 1);
 }
 
 }  // namespace

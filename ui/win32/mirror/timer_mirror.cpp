@@ -7,7 +7,20 @@ namespace zelvane::win32 {
 
 namespace {
 
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+
 constexpr UINT_PTR kTimer = 1;
+
+// Where in a second of the clock on the wall its one tick is: so late that a timer which the system
+// lets go a little early is still in it, and so early that one which comes late is in it, too.
+constexpr milliseconds kIntoTheSecond(20);
+constexpr milliseconds kLatestIntoTheSecond(100);
+
+std::chrono::system_clock::duration sinceTheSecondBegan() {
+  const auto now = std::chrono::system_clock::now();
+  return now - std::chrono::floor<seconds>(now);
+}
 
 }  // namespace
 
@@ -27,43 +40,67 @@ TimerMirror::TimerMirror(controls::Timer& control, controls::OpenBoxes& boxes, c
   follow(form, *this, [this] { hasten(); });
 }
 
-void TimerMirror::restart() {
-  KillTimer(handle(), kTimer);
+void TimerMirror::restart(Clock::time_point nextSecond) {
   waiting_ = control_.enabled() && !boxes_.any();
-  if (waiting_) {
-    wait_ = controls::paceOf(control_, form_);
-    due_ = Clock::now() + wait_;
-    waitFor(wait_);
+  if (!waiting_) {
+    stop();
+    return;
+  }
+  pace_ = controls::paceOf(control_, form_);
+  const Clock::time_point now = Clock::now();
+  due_ = now + pace_;
+  if (pace_ > control_.interval() && nextSecond > due_) {
+    due_ = nextSecond;
+    waitForTheSecond(now);
+  } else {
+    waitFor(pace_);
   }
 }
 
 // The window is seen again: a usual wait takes the place of a long one.
 void TimerMirror::hasten() {
-  if (waiting_ && controls::paceOf(control_, form_) < wait_) {
+  if (waiting_ && controls::paceOf(control_, form_) < pace_) {
     restart();
   }
 }
 
 void TimerMirror::waitFor(Clock::duration time) {
-  const auto milliseconds = std::chrono::ceil<std::chrono::milliseconds>(time);
-  SetTimer(handle(), kTimer, static_cast<UINT>(milliseconds.count()), nullptr);
+  everySecond_ = false;
+  const auto wait = std::chrono::ceil<milliseconds>(time);
+  SetTimer(handle(), kTimer, static_cast<UINT>(wait.count()), nullptr);
 }
 
-// The system's timers go on by themselves and may be early by one of its ticks.
-void TimerMirror::expire() {
+// The system's timers go on by themselves. One that comes in time every second is left alone.
+void TimerMirror::waitForTheSecond(Clock::time_point now) {
+  if (now + seconds(1) > due_ + kLatestIntoTheSecond) {
+    waitFor(due_ + kIntoTheSecond - now);
+  } else if (!everySecond_) {
+    waitFor(seconds(1));
+    everySecond_ = true;
+  }
+}
+
+void TimerMirror::stop() {
+  everySecond_ = false;
   KillTimer(handle(), kTimer);
+}
+
+// The system's timers may be early by one of its ticks.
+void TimerMirror::expire() {
   if (!waiting_ || boxes_.any()) {
+    stop();
     return;
   }
-  const Clock::duration left = due_ - Clock::now();
-  if (left > Clock::duration::zero()) {
-    waitFor(left);
+  const Clock::time_point now = Clock::now();
+  if (now < due_) {
+    waitFor(due_ - now);
     return;
   }
+  const Clock::time_point nextSecond = now - sinceTheSecondBegan() + seconds(1);
   waiting_ = false;
   control_.tick();
   if (!waiting_) {
-    restart();
+    restart(nextSecond);
   }
 }
 
