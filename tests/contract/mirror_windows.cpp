@@ -372,5 +372,20 @@ TEST_F(Win32MirrorTest, ADisabledFrameDisablesAllInItAndTouchesNoControl) {
   EXPECT_TRUE(isEnabled(button));
 }
 
+TEST_F(Win32MirrorTest, WhatIsInAMinimisedWindowStaysInItsPlace) {
+  controls::Label control(page, "lblStatus", "Ready");
+  auto& label = window.make<win32::LabelWindow>(control);
+  window.body().add(label);
+  window.fit();
+  form.setVisible(true);
+  const int width = label.area().width;
+
+  form.setState(controls::Form::State::minimised);
+  window.layOut();
+
+  EXPECT_GT(width, 0);
+  EXPECT_EQ(label.area().width, width);
+}
+
 }  // namespace
 }  // namespace zelvane::test

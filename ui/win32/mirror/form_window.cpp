@@ -130,9 +130,7 @@ void FormWindow::onSize(WPARAM how) {
     control_.setState(how == SIZE_MINIMIZED ? controls::Form::State::minimised
                                             : controls::Form::State::normal);
   }
-  if (how != SIZE_MINIMIZED) {
-    layOut();
-  }
+  layOut();
 }
 
 // The keys go back to who had them.
@@ -153,6 +151,13 @@ void FormWindow::onActivate(WPARAM how) {
 void FormWindow::askForLayout() {
   if (!layoutAsked_) {
     layoutAsked_ = PostMessageW(handle(), kLayoutMessage, 0, 0) != FALSE;
+  }
+}
+
+// A minimised window has no room. It gets a size when it is restored.
+void FormWindow::layOut() {
+  if (IsIconic(handle()) == FALSE) {
+    Pane::layOut();
   }
 }
 

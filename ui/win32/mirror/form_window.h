@@ -29,6 +29,7 @@ class FormWindow : public Pane {
   // for that calls it before.
   void finish();
 
+  void layOut() override;
   void askForLayout() override;
   void setTip(HWND tool, const std::wstring& text) override;
 
