@@ -68,6 +68,21 @@ TEST_F(Schedule, ACleaningStartsByItselfAtItsSecond) {
   EXPECT_EQ(window.log(), accountOf({}));
 }
 
+TEST_F(Schedule, ACleaningStartsByItselfWhileNobodySeesTheWindow) {
+  const RunningProgram program(world);
+  const ProgramWindow window = openPage(program);
+  const std::string time = timeIn(3);
+  window.control("dtpScheduleTime").setTime(time);
+  apply(window);
+
+  PostMessageW(window.window(), WM_CLOSE, 0, 0);
+  waitUntil("the window is minimised", [&] { return window.isMinimised(); });
+
+  EXPECT_NE(window.control("lblLastRunTime").text(), time);
+  waitUntil("the run has begun", [&] { return window.control("lblLastRunTime").text() == time; });
+  waitUntil("it shows the window", [&] { return !window.isMinimised(); });
+}
+
 TEST_F(Schedule, CancelBringsBackWhatWasApplied) {
   const RunningProgram program(world);
   const ProgramWindow window = openPage(program);
