@@ -1,7 +1,6 @@
 #!/usr/bin/python3
 """The Windows program under Wine: its start against a bare dialog, its erasing against `rd`."""
 
-import contextlib
 import pathlib
 import subprocess
 import tempfile
@@ -9,40 +8,8 @@ import tempfile
 import section
 import trees
 import turns
-from desktop import processes
 from desktop.virtual_desktop import VirtualDesktop
-from desktop.waiting import wait_until
-
-WINE = pathlib.Path(__file__).resolve().parents[1] / "scripts" / "wine.sh"
-# What scripts/wine.sh says to Wine; asked anew each time, it would be timed as well.
-WORDS = {"WINEDEBUG": "-all", "WINEDLLOVERRIDES": "winemenubuilder.exe=d", "LC_ALL": "C.UTF-8"}
-
-
-class Windows:
-    """A Windows to throw away, on a display of its own, whose services are running."""
-
-    def __init__(self, options, desktop, folder):
-        self._programs = options.build.with_name("windows-bench")
-        home = desktop.environment(desktop.new_home())
-        self._keeper = {**home, "WINEPREFIX": folder}
-        self.environment = {**home, **WORDS, "WINEPREFIX": f"{folder}/prefix"}
-        self.first_paint = str(options.build / "first_paint")
-
-    def program(self, name):
-        return str(self._programs / name)
-
-    @contextlib.contextmanager
-    def running(self):
-        """While a window is open, none of the services that it takes has to be started again."""
-        quiet = {"stdin": subprocess.DEVNULL, "stdout": subprocess.DEVNULL,
-                 "stderr": subprocess.DEVNULL, "env": self._keeper}
-        window = processes.start([WINE, self.program("bare_dialog.exe")], **quiet)
-        try:
-            wait_until(windows_on_screen, "the first window is on the screen", seconds=120)
-            yield
-        finally:
-            processes.end(window)
-            subprocess.run([WINE, "--end"], check=True, **quiet)
+from wine import Windows
 
 
 class Start(turns.Contestant):
@@ -59,11 +26,6 @@ class Start(turns.Contestant):
                                 stderr=subprocess.DEVNULL, text=True)
         wall, processor = answer.stdout.split()
         return float(wall), float(processor)
-
-
-def windows_on_screen():
-    return subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "^A dialog"],
-                          stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL).returncode == 0
 
 
 def measure_start(options, windows, page):
