@@ -50,19 +50,23 @@ def contestants(options, history, cleaner, limit, cold):
                          [(peer, limit)])]
 
 
-def refuse_harm(contestant, history):
+def memory(contestant, history):
+    """In MiB."""
     home = history.make()
-    contestant.measure(home)
-    history.refuse_harm(home)
+    most = contestant.memory(home) / 2**20
+    if contestant.goals:  # whose goal it is must reach it without harm
+        history.refuse_harm(home)
     history.end(home)
+    return most
 
 
-def found(both):
-    verdict = "met" if both[1].memory < MOST_MEMORY else "**not met**"
-    held = ", ".join(f"{each.name} {each.memory:.0f} MiB" for each in both)
+def found(both, history):
+    most = [memory(each, history) for each in both]
+    verdict = "met" if most[1] < MOST_MEMORY else "**not met**"
+    held = ", ".join(f"{each.name} {megabytes:.0f} MiB" for each, megabytes in zip(both, most))
     left = ", ".join(f"{each.name} {each.left:,}" for each in both)
-    return (f"Addresses left in the files: {left}. The most memory: {held}; goal under {MOST_MEMORY} "
-            f"MiB: {verdict}.")
+    return (f"Addresses left in the files: {left}. The most memory (PSS): {held}; goal under "
+            f"{MOST_MEMORY} MiB: {verdict}.")
 
 
 def main():
@@ -78,10 +82,9 @@ def main():
                     history = big_history.BigHistory(pathlib.Path(folder), fill)
                     both = contestants(options, history, cleaner, limit, cold)
                     turns.take_turns(both, options.rounds, history.make, history.end)
-                    refuse_harm(both[1], history)
-                page.add(turns.table(both), heading=f"{name}, on {place.file_system}, "
-                                                    f"{'cold' if cold else 'warm'}")
-                page.add(found(both))
+                    page.add(turns.table(both), heading=f"{name}, on {place.file_system}, "
+                                                        f"{'cold' if cold else 'warm'}")
+                    page.add(found(both, history))
     page.add("From the start of the process to its end, each on a copy of the same profile: visits, "
              "pages, icons; 200\nbookmarks stay, with theirs. BleachBit's line is that of its option "
              "for the history alone.")

@@ -1,5 +1,6 @@
 #!/usr/bin/python3
-"""Puts docs/performance.md together from the sections that the benchmarks have written."""
+"""Puts docs/performance.md together from the sections that the benchmarks have written. Those of others
+stay as they are."""
 
 import argparse
 import os
@@ -19,9 +20,19 @@ def main():
     parser.add_argument("--output", type=pathlib.Path, required=True)
     parser.add_argument("names", nargs="+")
     options = parser.parse_args()
-    files = [options.build / f"{name}.md" for name in options.names]
-    sections = [file.read_text("utf-8") for file in files if file.exists()]
-    options.output.write_text("\n".join([HEAD.format(processors=os.cpu_count()), *sections]), "utf-8")
+    sections = sections_of(options.output) if options.output.exists() else {}
+    for name in options.names:
+        file = options.build / f"{name}.md"
+        if file.exists():
+            sections.update(sections_of(file))
+    text = "\n\n".join([HEAD.format(processors=os.cpu_count()).strip(), *sections.values()])
+    options.output.write_text(text + "\n", "utf-8")
+
+
+def sections_of(file):
+    """By their titles, in their order."""
+    _, *sections = ("\n" + file.read_text("utf-8")).split("\n## ")
+    return {section.partition("\n")[0]: f"## {section.strip()}" for section in sections}
 
 
 main()

@@ -6,6 +6,9 @@ import subprocess
 import tempfile
 import time
 
+import section  # noqa: F401: lets the next one be found
+from desktop.memory import MemoryWatch
+
 
 class Contestant:
     """Something that is timed, and what it must reach: pairs of a peer and the most of the peer's
@@ -37,12 +40,10 @@ class Contestant:
 
 
 class Command(Contestant):
-    """A whole process, from its start to its end. `command` makes it for a piece of work. `memory`
-    is the most that it has held of the machine's, in MiB, a shared page counted in full."""
+    """A whole process, from its start to its end. `command` makes it for a piece of work."""
 
     def __init__(self, name, command, goals=(), environment=None):
         super().__init__(name, goals)
-        self.memory = 0
         self._command = command
         self._environment = environment
 
@@ -53,9 +54,7 @@ class Command(Contestant):
     def measure(self, work):
         with tempfile.TemporaryFile() as told:
             start = time.monotonic()
-            process = subprocess.Popen(
-                self._command(work), stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
-                stderr=told, env=self.environment(work))
+            process = self._start(work, told)
             _, status, used = os.wait4(process.pid, 0)
             wall = time.monotonic() - start
             process.returncode = os.waitstatus_to_exitcode(status)
@@ -63,8 +62,19 @@ class Command(Contestant):
                 told.seek(0)
                 raise SystemExit(f"{self.name} ended with status {process.returncode}:\n"
                                  f"{told.read().decode('utf-8', 'replace')}")
-        self.memory = max(self.memory, used.ru_maxrss / 1024)
         return wall, used.ru_utime + used.ru_stime
+
+    def memory(self, work):
+        """Does it once more, untimed: the most that the process holds meanwhile, in bytes, what it
+        shares with others divided among them."""
+        with self._start(work, subprocess.DEVNULL) as process, MemoryWatch(process.pid) as watch:
+            process.wait()
+        return watch.most
+
+    def _start(self, work, errors):
+        return subprocess.Popen(self._command(work), stdin=subprocess.DEVNULL,
+                                stdout=subprocess.DEVNULL, stderr=errors,
+                                env=self.environment(work))
 
 
 def take_turns(contestants, rounds, make_work=lambda: None, end_work=lambda work: None):

@@ -48,6 +48,7 @@ std::vector<Look> looksAtChromium(const std::string& profile) {
 
 std::vector<std::string> seenBy(const std::vector<Look>& looks) {
   std::vector<std::string> seen;
+  seen.reserve(looks.size());
   for (const Look& look : looks) seen.push_back(look.now());
   return seen;
 }
