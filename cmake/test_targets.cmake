@@ -24,18 +24,17 @@ target_compile_options(zelvane_test_options INTERFACE -fPIC -O0)
 target_include_directories(zelvane_test_options INTERFACE ${PROJECT_SOURCE_DIR})
 target_link_libraries(zelvane_test_options INTERFACE zelvane_build_options GTest::gtest)
 
-file(WRITE ${PROJECT_BINARY_DIR}/tests/precompiled.cpp "")
-
-# zelvane_test_header(name HEADERS header... [DEPENDS target...])
+# zelvane_test_header(name [HEADERS header...] [DEPENDS target...])
+#
+# GoogleTest's and these, for the tests that need them.
 function(zelvane_test_header name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS;DEPENDS")
-  add_library(${name} OBJECT ${PROJECT_BINARY_DIR}/tests/precompiled.cpp)
+  zelvane_header(${name} HEADERS <gtest/gtest.h> <filesystem> ${arg_HEADERS}
+    DEPENDS zelvane_test_options ${arg_DEPENDS})
   set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE OFF)
-  target_link_libraries(${name} PRIVATE zelvane_test_options ${arg_DEPENDS})
-  target_precompile_headers(${name} PRIVATE ${arg_HEADERS})
 endfunction()
 
-zelvane_test_header(zelvane_gtest_header HEADERS <gtest/gtest.h>)
+zelvane_test_header(zelvane_gtest_header)
 
 function(zelvane_test name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "HEADER" "SOURCES;DEPENDS")
