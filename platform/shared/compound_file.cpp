@@ -2,9 +2,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <set>
 
 #include "platform/error.h"
+#include "platform/shared/ascii_case.h"
 #include "platform/shared/little_endian.h"
 
 namespace zelvane::platform {
@@ -19,6 +20,7 @@ constexpr std::size_t kTableInHeader = 76;  // the first sectors of the table, u
 constexpr std::size_t kEntry = 128;         // of the directory
 constexpr std::size_t kSmallShift = 6;
 constexpr std::uint64_t kLongestSmall = 4096;
+constexpr unsigned char kFree = 0;
 constexpr unsigned char kStream = 2;
 constexpr unsigned char kRoot = 5;
 
@@ -47,9 +49,10 @@ struct Space {
     return bytes.substr(std::size_t{which} << shift, size);
   }
 
-  std::string chain(Sector first) const {
+  // The chain's beginning, of at least `length` bytes where it has as many.
+  std::string chain(Sector first, std::uint64_t length = ~std::uint64_t{}) const {
     std::string content;
-    for (Sector here = first; here != kEndOfChain; here = next[here]) {
+    for (Sector here = first; here != kEndOfChain && content.size() < length; here = next[here]) {
       content += sector(here);
       if (here >= next.size() || content.size() > bytes.size()) throw Error(ErrorNumber::deviceIo);
     }
@@ -94,53 +97,86 @@ std::vector<Sector> sectorsOfTable(std::string_view file, const Header& header,
   return sectors;
 }
 
-bool isCalled(std::string_view entry, std::string_view name) {
+// Its length is that of its text and a zero at the end, in bytes.
+std::string nameOf(std::string_view entry) {
   const std::size_t bytes = littleEndian<std::uint16_t>(entry, 64);
-  if (bytes != 2 * (name.size() + 1) || bytes > 64) return false;
-  for (std::size_t at = 0; at < name.size(); ++at) {
-    if (entry[2 * at] != name[at] || entry[2 * at + 1] != '\0') return false;
+  if (bytes < 4 || bytes > 64 || bytes % 2 != 0) throw Error(ErrorNumber::deviceIo);
+  std::string name;
+  for (std::size_t at = 0; at < bytes - 2; at += 2) {
+    const auto letter = littleEndian<std::uint16_t>(entry, at);
+    if (letter == 0 || letter > 0x7F) throw Error(ErrorNumber::deviceIo);
+    name += static_cast<char>(letter);
   }
-  return true;
+  return name;
+}
+
+std::uint64_t lengthOf(std::string_view entry) {
+  return number(entry, 120);  // of 32 bits, as none here is longer
 }
 
 std::string contentOf(std::string_view entry, const Space& space) {
-  const std::uint64_t length = number(entry, 120);  // of 32 bits, as none here is longer
-  std::string content = space.chain(number(entry, 116));
+  const std::uint64_t length = lengthOf(entry);
+  std::string content = space.chain(number(entry, 116), length);
   if (content.size() < length) throw Error(ErrorNumber::deviceIo);
   content.resize(length);
   return content;
 }
 
-std::optional<std::string> streamOf(std::string_view file, std::string_view name) {
+struct Directory {
+  explicit Directory(std::string_view bytes) {
+    for (std::size_t at = 0; at + kEntry <= bytes.size(); at += kEntry) {
+      const std::string_view entry = bytes.substr(at, kEntry);
+      const auto type = static_cast<unsigned char>(entry[66]);
+      if (type == kStream) {
+        streams.push_back(entry);
+      } else if (type == kRoot && root.empty()) {
+        root = entry;
+      } else if (type != kFree) {
+        throw Error(ErrorNumber::deviceIo);
+      }
+    }
+    if (root.empty()) throw Error(ErrorNumber::deviceIo);
+  }
+
+  std::string_view root;
+  std::vector<std::string_view> streams;
+};
+
+// Streams that share sectors would be longer together than the file.
+void refuseSharing(const Directory& directory, std::string_view file) {
+  std::uint64_t together = 0;
+  for (const std::string_view entry : directory.streams) together += lengthOf(entry);
+  if (together > file.size()) throw Error(ErrorNumber::deviceIo);
+}
+
+std::vector<NamedStream> streamsOf(std::string_view file) {
   const Header header(file);
   Space space{file.substr(std::size_t{1} << header.shift), header.shift, {}};
   for (const Sector sector : sectorsOfTable(file, header, space)) {
     const std::vector<Sector> part = numbersIn(space.sector(sector));
     space.next.insert(space.next.end(), part.begin(), part.end());
   }
-  const std::string directory = space.chain(header.directory);
-  std::string_view root;
-  std::string_view found;
-  for (std::size_t at = 0; at + kEntry <= directory.size(); at += kEntry) {
-    const std::string_view entry = std::string_view(directory).substr(at, kEntry);
-    const auto type = static_cast<unsigned char>(entry[66]);
-    if (type == kRoot && root.empty()) root = entry;
-    if (type != kStream || !isCalled(entry, name)) continue;
-    if (!found.empty()) throw Error(ErrorNumber::deviceIo);
-    found = entry;
+  const std::string entries = space.chain(header.directory);
+  const Directory directory(entries);
+  refuseSharing(directory, file);
+  const std::string smallOnes = contentOf(directory.root, space);
+  const Space smallSpace{smallOnes, kSmallShift, numbersIn(space.chain(header.smallTable))};
+
+  std::vector<NamedStream> streams;
+  std::set<std::string, NameLess> names;
+  for (const std::string_view entry : directory.streams) {
+    const bool isSmall = lengthOf(entry) < kLongestSmall;
+    streams.push_back({nameOf(entry), contentOf(entry, isSmall ? smallSpace : space)});
+    if (!names.insert(streams.back().name).second) throw Error(ErrorNumber::deviceIo);
   }
-  if (found.empty()) return std::nullopt;
-  if (number(found, 120) >= kLongestSmall) return contentOf(found, space);
-  if (root.empty()) throw Error(ErrorNumber::deviceIo);
-  const std::string smallOnes = contentOf(root, space);
-  return contentOf(found, {smallOnes, kSmallShift, numbersIn(space.chain(header.smallTable))});
+  return streams;
 }
 
 }  // namespace
 
-std::optional<std::string> streamIn(std::string_view file, std::string_view name) {
+std::optional<std::vector<NamedStream>> streamsIn(std::string_view file) {
   try {
-    return streamOf(file, name);
+    return streamsOf(file);
   } catch (const Error&) {
     return std::nullopt;
   }

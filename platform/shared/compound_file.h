@@ -4,11 +4,20 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace zelvane::platform {
 
-// The content of the stream called `name` (ASCII), wherever in the file it is. Nothing where there
-// is none or more than one, or where the file is cut, damaged or none of this kind.
+struct NamedStream {
+  std::string name;  // ASCII
+  std::string content;
+
+  bool operator==(const NamedStream&) const = default;
+};
+
+// All streams of the file, in the order of its directory. Nothing where the file is cut, damaged or
+// none of this kind, or where it holds more than a list of streams with ASCII names, no two of which
+// are the same but for case.
 //
 // As [MS-CFB] has it, which Microsoft publishes:
 //
@@ -19,6 +28,6 @@ namespace zelvane::platform {
 //     with a table of their own
 //
 // Takes time and memory in proportion to `file`; a chain that runs in circles is damaged.
-std::optional<std::string> streamIn(std::string_view file, std::string_view name);
+std::optional<std::vector<NamedStream>> streamsIn(std::string_view file);
 
 }  // namespace zelvane::platform

@@ -1,22 +1,33 @@
 #include "platform/shared/jump_list.h"
 
+#include <algorithm>
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
+#include <set>
 #include <string>
 
-#include "platform/shared/compound_file.h"
 #include "platform/shared/little_endian.h"
 
 namespace zelvane::platform {
 namespace {
 
+constexpr std::string_view kOrder = "DestList";
 constexpr std::size_t kHeader = 32;
+constexpr std::size_t kEntries = 4;
+constexpr std::size_t kPinnedEntries = 8;
+constexpr std::size_t kLink = 88;
 constexpr std::size_t kPin = 108;
 constexpr std::uint32_t kUnpinned = 0xFFFFFFFF;
 
 std::uint32_t number(std::string_view bytes, std::size_t at) {
   return littleEndian<std::uint32_t>(bytes, at);
+}
+
+void put(std::string& bytes, std::size_t at, std::size_t number) {
+  for (std::size_t place = 0; place < sizeof(std::uint32_t); ++place, number >>= 8U) {
+    bytes[at + place] = static_cast<char>(number & 0xFFU);
+  }
 }
 
 // The bytes that the first entry takes; nothing where they are not all there.
@@ -32,23 +43,71 @@ std::optional<std::size_t> sizeOfEntry(std::string_view entries, std::uint32_t v
   return size <= entries.size() ? std::optional(size) : std::nullopt;
 }
 
-}  // namespace
-
-Pins pinsIn(std::string_view file) {
-  const std::optional<std::string> list = streamIn(file, "DestList");
-  if (!list || list->size() < kHeader) return Pins::unknown;
-  const std::uint32_t version = number(*list, 0);
-  if (version != 1 && version != 3 && version != 4) return Pins::unknown;
-  if (number(*list, 8) != 0) return Pins::some;
-  std::string_view rest = std::string_view(*list).substr(kHeader);
-  std::uint32_t entries = 0;
-  for (; !rest.empty(); ++entries) {
+// Nothing where they are not what the header says.
+std::optional<std::vector<std::string_view>> entriesIn(std::string_view order) {
+  if (order.size() < kHeader) return std::nullopt;
+  const std::uint32_t version = number(order, 0);
+  if (version != 1 && version != 3 && version != 4) return std::nullopt;
+  std::vector<std::string_view> entries;
+  for (std::string_view rest = order.substr(kHeader); !rest.empty();) {
     const std::optional<std::size_t> size = sizeOfEntry(rest, version);
-    if (!size) return Pins::unknown;
-    if (number(rest, kPin) != kUnpinned) return Pins::some;
+    if (!size) return std::nullopt;
+    entries.push_back(rest.substr(0, *size));
     rest.remove_prefix(*size);
   }
-  return entries == number(*list, 4) ? Pins::none : Pins::unknown;
+  const bool agree = entries.size() == number(order, kEntries);
+  return agree ? std::optional(entries) : std::nullopt;
+}
+
+bool isPinned(std::string_view entry) { return number(entry, kPin) != kUnpinned; }
+
+// Nothing where the stream is no link.
+std::optional<std::uint32_t> numberOfLink(std::string_view name) {
+  std::uint32_t link = 0;
+  const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), link, 16);
+  const bool isNumber = error == std::errc() && end == name.data() + name.size();
+  return isNumber ? std::optional(link) : std::nullopt;
+}
+
+// The order of the pinned ones alone.
+std::string orderOf(const std::vector<std::string_view>& pinned, std::string_view order) {
+  std::string shorter(order.substr(0, kHeader));
+  put(shorter, kEntries, pinned.size());
+  put(shorter, kPinnedEntries, pinned.size());
+  for (const std::string_view entry : pinned) shorter += entry;
+  return shorter;
+}
+
+}  // namespace
+
+std::optional<PinnedPart> pinnedPart(std::string_view file) {
+  std::optional<std::vector<NamedStream>> streams = streamsIn(file);
+  if (!streams) return std::nullopt;
+  const auto order = std::ranges::find(*streams, kOrder, &NamedStream::name);
+  if (order == streams->end()) return std::nullopt;
+  const auto entries = entriesIn(order->content);
+  if (!entries) return std::nullopt;
+
+  std::vector<std::string_view> pinned;
+  std::ranges::copy_if(*entries, std::back_inserter(pinned), isPinned);
+  if (pinned.size() != number(order->content, kPinnedEntries)) return std::nullopt;
+  PinnedPart part{.isAll = pinned.size() == entries->size(), .streams = {}};
+  if (pinned.empty()) return part;
+
+  std::set<std::uint32_t> links;
+  for (const std::string_view entry : pinned) links.insert(number(entry, kLink));
+  if (links.size() != pinned.size()) return std::nullopt;
+  for (const NamedStream& stream : *streams) {
+    const std::optional<std::uint32_t> link = numberOfLink(stream.name);
+    if (stream.name == kOrder) {
+      part.streams.push_back({stream.name, orderOf(pinned, stream.content)});
+    } else if (!link || links.erase(*link) != 0) {
+      part.streams.push_back(stream);
+    } else {
+      part.isAll = false;
+    }
+  }
+  return links.empty() ? std::optional(part) : std::nullopt;
 }
 
 }  // namespace zelvane::platform

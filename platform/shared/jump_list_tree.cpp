@@ -1,11 +1,13 @@
 #include "platform/shared/jump_list_tree.h"
 
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <utility>
 
 #include "platform/error.h"
 #include "platform/shared/ascii_case.h"
+#include "platform/shared/compound_file_writer.h"
 #include "platform/shared/jump_list.h"
 
 namespace zelvane::platform {
@@ -37,28 +39,38 @@ class Passing : public OpenFolder {
 
 class JumpLists : public Passing {
  public:
-  JumpLists(std::unique_ptr<OpenFolder> folder, std::string path, const Files& files)
+  JumpLists(std::unique_ptr<OpenFolder> folder, std::string path, Files& files)
       : Passing(std::move(folder)), path_(std::move(path)), files_(files) {}
 
   void removeFile(const std::string& name) override {
-    if (endsWith(name, ".automaticDestinations-ms") && mayHoldPins(path_ + "/" + name)) {
-      throw Error(ErrorNumber::permissionDenied, name + " holds what its user has pinned");
+    const std::string list = path_ + "/" + name;
+    if (endsWith(name, ".automaticDestinations-ms") && files_.exists(list)) {
+      const std::optional<PinnedPart> pinned = pinnedPart(files_.readWhole(list, kLongestList));
+      if (!pinned) {
+        throw Error(ErrorNumber::permissionDenied, name + " may hold what its user has pinned");
+      }
+      if (!pinned->streams.empty()) {
+        if (!pinned->isAll) replace(list, pinned->streams);
+        throw Error(ErrorNumber::permissionDenied, name + " holds what its user has pinned");
+      }
     }
     Passing::removeFile(name);
   }
 
  private:
-  bool mayHoldPins(const std::string& list) const {
-    return files_.exists(list) && pinsIn(files_.readWhole(list, kLongestList)) != Pins::none;
+  void replace(const std::string& list, const std::vector<NamedStream>& streams) {
+    const std::unique_ptr<PendingFile> file = files_.createInPlaceOf(list);
+    file->write(compoundFile(streams));
+    file->publish();
   }
 
   std::string path_;
-  const Files& files_;
+  Files& files_;
 };
 
 class RecentDocuments : public Passing {
  public:
-  RecentDocuments(std::unique_ptr<OpenFolder> folder, std::string path, const Files& files)
+  RecentDocuments(std::unique_ptr<OpenFolder> folder, std::string path, Files& files)
       : Passing(std::move(folder)), path_(std::move(path)), files_(files) {}
 
   std::unique_ptr<OpenFolder> openSubfolder(const std::string& name) override {
@@ -77,7 +89,7 @@ class RecentDocuments : public Passing {
 
  private:
   std::string path_;
-  const Files& files_;
+  Files& files_;
 };
 
 std::string withoutClosingSeparators(std::string path) {

@@ -1,17 +1,37 @@
 #include "platform/shared/compound_file.h"
 
+#include <algorithm>
+
 #include <gtest/gtest.h>
 
+#include "platform/shared/compound_file_writer.h"
+#include "platform/shared/little_endian.h"
 #include "tests/support/jump_list_file.h"
 
 namespace zelvane::test {
 namespace {
 
-using platform::streamIn;
+using platform::compoundFile;
+using platform::NamedStream;
+using platform::streamsIn;
 
-constexpr std::size_t kTableAt = 512;       // of the builder's files: sector 0
-constexpr std::size_t kDirectoryAt = 1024;  // sector 1
+std::optional<std::string> streamIn(std::string_view file, std::string_view name) {
+  const std::optional<std::vector<NamedStream>> streams = streamsIn(file);
+  if (!streams) return std::nullopt;
+  const auto found = std::ranges::find(*streams, name, &NamedStream::name);
+  return found == streams->end() ? std::nullopt : std::optional(found->content);
+}
+
 constexpr std::size_t kEntry = 128;
+
+// Where a header's number leads to.
+std::uint32_t sectorIn(const std::string& file, std::size_t at) {
+  return platform::littleEndian<std::uint32_t>(file, at);
+}
+std::size_t placeOf(std::uint32_t sector) { return 512 * (std::size_t{sector} + 1); }
+std::size_t tableOf(const std::string& file) { return placeOf(sectorIn(file, 76)); }
+std::uint32_t directorySector(const std::string& file) { return sectorIn(file, 48); }
+std::size_t directoryOf(const std::string& file) { return placeOf(directorySector(file)); }
 
 std::string twoStreams() {
   return compoundFile({{"small", std::string(100, 's')}, {"large", std::string(5000, 'l')}});
@@ -20,6 +40,47 @@ std::string twoStreams() {
 TEST(CompoundFile, GivesSmallAndLargeStreams) {
   EXPECT_EQ(streamIn(twoStreams(), "small"), std::string(100, 's'));
   EXPECT_EQ(streamIn(twoStreams(), "large"), std::string(5000, 'l'));
+}
+
+TEST(CompoundFile, ListsItsStreamsInOrder) {
+  const std::vector<NamedStream> streams{
+      {"small", "1"}, {"large", std::string(5000, 'l')}, {"empty", ""}, {"last", "2"}};
+
+  EXPECT_EQ(streamsIn(compoundFile(streams)), streams);
+  EXPECT_EQ(streamsIn(compoundFile({})), std::vector<NamedStream>());
+}
+
+TEST(CompoundFile, AStorageInItIsNotUnderstood) {
+  constexpr char kStorage = 1;
+  std::string file = twoStreams();
+  file[directoryOf(file) + kEntry + 66] = kStorage;
+
+  EXPECT_EQ(streamsIn(file), std::nullopt);
+}
+
+TEST(CompoundFile, ANameThatIsNotAsciiIsNotUnderstood) {
+  std::string file = twoStreams();
+  file[directoryOf(file) + kEntry] = '\xE4';
+
+  EXPECT_EQ(streamsIn(file), std::nullopt);
+}
+
+TEST(CompoundFile, AStreamWithoutANameIsDamaged) {
+  std::string file = twoStreams();
+  file[directoryOf(file) + kEntry + 64] = 2;
+
+  EXPECT_EQ(streamsIn(file), std::nullopt);
+}
+
+TEST(CompoundFile, StreamsThatShareTheirSectorsAreDamaged) {
+  std::string file = twoStreams();
+  for (const std::size_t fact : {std::size_t{116}, std::size_t{120}}) {
+    for (std::size_t byte = fact; byte < fact + 4; ++byte) {
+      file[directoryOf(file) + kEntry + byte] = file[directoryOf(file) + 2 * kEntry + byte];
+    }
+  }
+
+  EXPECT_EQ(streamsIn(file), std::nullopt);
 }
 
 TEST(CompoundFile, AnEmptyStreamIsThere) {
@@ -33,6 +94,7 @@ TEST(CompoundFile, AStreamThatIsNotThereIsNone) {
 
 TEST(CompoundFile, TwoStreamsOfOneNameAreNone) {
   EXPECT_EQ(streamIn(compoundFile({{"one", "1"}, {"one", "2"}}), "one"), std::nullopt);
+  EXPECT_EQ(streamIn(compoundFile({{"one", "1"}, {"One", "2"}}), "one"), std::nullopt);
 }
 
 TEST(CompoundFile, WhatIsNoSuchFileHasNoStreams) {
@@ -52,9 +114,9 @@ TEST(CompoundFile, AFileCutAnywhereGivesTheWholeStreamOrNone) {
 }
 
 TEST(CompoundFile, AChainThatRunsInCirclesIsDamaged) {
-  for (std::uint32_t sector = 1; sector < 14; ++sector) {
+  for (std::uint32_t sector = 0; sector < 14; ++sector) {
     std::string file = twoStreams();
-    putNumber(file, kTableAt + 4 * std::size_t{sector}, sector);
+    putNumber(file, tableOf(file) + 4 * std::size_t{sector}, sector);
 
     EXPECT_EQ(streamIn(file, "small").value_or(std::string(100, 's')), std::string(100, 's'));
     EXPECT_EQ(streamIn(file, "large").value_or(std::string(5000, 'l')), std::string(5000, 'l'));
@@ -63,23 +125,24 @@ TEST(CompoundFile, AChainThatRunsInCirclesIsDamaged) {
 
 TEST(CompoundFile, ADirectoryThatRunsInCirclesIsDamaged) {
   std::string file = twoStreams();
-  putNumber(file, kTableAt + 4, 1);
+  putNumber(file, tableOf(file) + 4 * std::size_t{directorySector(file)}, directorySector(file));
 
   EXPECT_EQ(streamIn(file, "small"), std::nullopt);
 }
 
 TEST(CompoundFile, ATableNamedInCirclesIsDamaged) {
   std::string file = twoStreams();
-  putNumber(file, 68, 1);
-  putNumber(file, kDirectoryAt + 508, 1);
+  putNumber(file, 68, directorySector(file));
+  putNumber(file, directoryOf(file) + 508, directorySector(file));
 
   EXPECT_EQ(streamIn(file, "small"), std::nullopt);
 }
 
 TEST(CompoundFile, NumbersThatPointOutsideAreDamage) {
-  for (const std::size_t at : {std::size_t{48}, std::size_t{76}, kDirectoryAt + 2 * kEntry + 116,
-                               kDirectoryAt + 2 * kEntry + 120}) {
-    std::string file = twoStreams();
+  const std::string whole = twoStreams();
+  const std::size_t large = directoryOf(whole) + 2 * kEntry;
+  for (const std::size_t at : {std::size_t{48}, std::size_t{76}, large + 116, large + 120}) {
+    std::string file = whole;
     putNumber(file, at, 0x7FFFFFF0);
 
     EXPECT_EQ(streamIn(file, "large"), std::nullopt) << at;

@@ -26,6 +26,9 @@ class JumpListTree : public testing::Test {
   void add(const std::string& name, const std::string& content = "content") {
     fileSystem.addFile(kRecent + "/" + name, content);
   }
+  std::string content(const std::string& name) const {
+    return files.readWhole(kRecent + "/" + name, 65536);
+  }
   bool has(const std::string& name) const { return fileSystem.has(kRecent + "/" + name); }
   void erase() { cleaner::eraseContents(tree, pump, kRecent); }
 
@@ -40,17 +43,25 @@ class JumpListTree : public testing::Test {
   platform::JumpListTree tree{special, plain, files};
 };
 
-TEST_F(JumpListTree, LinksAndListsWithoutPinsGoAndListsWithPinsStayWhole) {
-  const std::string pinned = jumpList(4, {{"C:\\used"}, {"C:\\pinned", 0}});
+TEST_F(JumpListTree, LinksAndListsWithoutPinsGoAndWhatIsPinnedStays) {
   add("document.lnk");
   add(kUsed, jumpList(4, {{"C:\\used"}}));
-  add(kPinned, pinned);
+  add(kPinned, jumpList(4, {{"C:\\used"}, {"C:\\pinned", 0}}));
 
   erase();
 
   EXPECT_FALSE(has("document.lnk"));
   EXPECT_FALSE(has(kUsed));
-  EXPECT_EQ(files.readWhole(kRecent + "/" + kPinned, 65536), pinned);
+  EXPECT_EQ(content(kPinned), jumpList(4, {{"C:\\pinned", 0, 2}}));
+}
+
+TEST_F(JumpListTree, AListOfPinsAloneIsNotWrittenAnew) {
+  const std::string kept = jumpList(4, {{"C:\\pinned", 0}}) + "what may be behind it";
+  add(kPinned, kept);
+
+  erase();
+
+  EXPECT_EQ(content(kPinned), kept);
 }
 
 TEST_F(JumpListTree, AListThatIsNotUnderstoodStays) {
