@@ -6,23 +6,24 @@
 
 #include "platform/error.h"
 #include "platform/shared/ascii_case.h"
+#include "platform/shared/compound_file_format.h"
 #include "platform/shared/little_endian.h"
 
 namespace zelvane::platform {
 namespace {
 
-using Sector = std::uint32_t;
-constexpr Sector kLastSector = 0xFFFFFFFA;  // those above it are signs
-constexpr Sector kEndOfChain = 0xFFFFFFFE;
+using compound::kEndOfChain;
+using compound::kEntry;
+using compound::kHeader;
+using compound::kLastSector;
+using compound::kLongestSmall;
+using compound::kLowestByteFirst;
+using compound::kMagic;
+using compound::kSmallShift;
+using compound::Sector;
+using compound::Type;
 
-constexpr std::size_t kHeader = 512;
 constexpr std::size_t kTableInHeader = 76;  // the first sectors of the table, up to its end
-constexpr std::size_t kEntry = 128;         // of the directory
-constexpr std::size_t kSmallShift = 6;
-constexpr std::uint64_t kLongestSmall = 4096;
-constexpr unsigned char kFree = 0;
-constexpr unsigned char kStream = 2;
-constexpr unsigned char kRoot = 5;
 
 std::uint32_t number(std::string_view bytes, std::size_t at) {
   return littleEndian<std::uint32_t>(bytes, at);
@@ -62,11 +63,10 @@ struct Space {
 
 struct Header {
   explicit Header(std::string_view file) {
-    constexpr std::string_view kMagic = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
     if (file.size() < kHeader || !file.starts_with(kMagic)) throw Error(ErrorNumber::deviceIo);
     shift = littleEndian<std::uint16_t>(file, 30);
     const bool isKnown =
-        (shift == 9 || shift == 12) && littleEndian<std::uint16_t>(file, 28) == 0xFFFE &&
+        (shift == 9 || shift == 12) && littleEndian<std::uint16_t>(file, 28) == kLowestByteFirst &&
         littleEndian<std::uint16_t>(file, 32) == kSmallShift && number(file, 56) == kLongestSmall;
     if (!isKnown || file.size() < std::size_t{1} << shift) throw Error(ErrorNumber::deviceIo);
     directory = number(file, 48);
@@ -126,12 +126,12 @@ struct Directory {
   explicit Directory(std::string_view bytes) {
     for (std::size_t at = 0; at + kEntry <= bytes.size(); at += kEntry) {
       const std::string_view entry = bytes.substr(at, kEntry);
-      const auto type = static_cast<unsigned char>(entry[66]);
-      if (type == kStream) {
+      const Type type{entry[66]};
+      if (type == Type::stream) {
         streams.push_back(entry);
-      } else if (type == kRoot && root.empty()) {
+      } else if (type == Type::root && root.empty()) {
         root = entry;
-      } else if (type != kFree) {
+      } else if (type != Type::free) {
         throw Error(ErrorNumber::deviceIo);
       }
     }

@@ -1,6 +1,7 @@
 #include "platform/shared/compound_file_writer.h"
 
 #include <algorithm>
+#include <array>
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
@@ -9,30 +10,32 @@
 #include <string_view>
 
 #include "platform/error.h"
+#include "platform/shared/compound_file_format.h"
+#include "platform/shared/little_endian.h"
 
 namespace zelvane::platform {
 namespace {
 
-using Sector = std::uint32_t;
-constexpr Sector kTableSector = 0xFFFFFFFD;
-constexpr Sector kEndOfChain = 0xFFFFFFFE;
+using compound::kEndOfChain;
+using compound::kHeader;
+using compound::kLongestSmall;
+using compound::kLowestByteFirst;
+using compound::kMagic;
+using compound::kSmallShift;
+using compound::kTableSector;
+using compound::kTablesInHeader;
+using compound::Sector;
+using compound::Type;
+
 constexpr std::uint32_t kNobody = 0xFFFFFFFF;
-
-constexpr std::size_t kSector = 512;
-constexpr std::size_t kSmallSector = 64;
-constexpr std::size_t kLongestSmall = 4096;
-constexpr std::size_t kEntry = 128;           // of the directory
-constexpr std::size_t kTablesInHeader = 109;  // for more, the table would need a list of its own
+constexpr std::size_t kSectorShift = 9;
+constexpr std::size_t kSector = std::size_t{1} << kSectorShift;
+constexpr std::size_t kSmallSector = std::size_t{1} << kSmallShift;
 constexpr std::size_t kNumbersInSector = kSector / sizeof(Sector);
-
-// The lowest byte first.
-void append(std::string& bytes, std::uint64_t number, std::size_t size) {
-  for (; size-- > 0; number >>= 8U) bytes += static_cast<char>(number & 0xFFU);
-}
 
 std::string bytesOf(std::span<const Sector> numbers) {
   std::string bytes;
-  for (const Sector number : numbers) append(bytes, number, sizeof(Sector));
+  for (const Sector number : numbers) appendLittleEndian(bytes, number, sizeof(Sector));
   return bytes;
 }
 
@@ -101,22 +104,20 @@ struct Tree {
   std::uint32_t top;
 };
 
-enum class Type : char { free = 0, stream = 2, root = 5 };
-
 std::string entry(std::string_view name, Type type, Tree::Node siblings, std::uint32_t child,
                   Place place) {
   constexpr char kBlack = 1;
   std::string bytes;
   for (const char letter : name) bytes += {letter, '\0'};
   bytes.resize(64);
-  append(bytes, name.empty() ? 0 : 2 * (name.size() + 1), 2);
+  appendLittleEndian(bytes, name.empty() ? 0 : 2 * (name.size() + 1), 2);
   bytes += {static_cast<char>(type), type == Type::free ? '\0' : kBlack};
   for (const std::uint32_t number : {siblings.left, siblings.right, child}) {
-    append(bytes, number, sizeof number);
+    appendLittleEndian(bytes, number, sizeof number);
   }
   bytes.resize(116);  // neither class nor times
-  append(bytes, place.first, sizeof place.first);
-  append(bytes, place.size, 8);
+  appendLittleEndian(bytes, place.first, sizeof place.first);
+  appendLittleEndian(bytes, place.size, 8);
   return bytes;
 }
 
@@ -147,17 +148,18 @@ Sector addTable(Space& space) {
 
 std::string header(Sector directory, Sector smallTable, std::size_t smallTableSectors, Sector table,
                    std::size_t tableSectors) {
-  std::string bytes = "\xD0\xCF\x11\xE0\xA1\xB1\x1A\xE1";
+  std::string bytes(kMagic);
   bytes.resize(24);
-  for (const unsigned fact : {0x3EU, 3U, 0xFFFEU, 9U, 6U}) append(bytes, fact, 2);
+  constexpr std::array<std::size_t, 5> kForm{0x3E, 3, kLowestByteFirst, kSectorShift, kSmallShift};
+  for (const std::size_t fact : kForm) appendLittleEndian(bytes, fact, 2);
   bytes.resize(44);
-  for (const std::size_t fact :
-       {tableSectors, std::size_t{directory}, std::size_t{0}, kLongestSmall,
-        std::size_t{smallTable}, smallTableSectors, std::size_t{kEndOfChain}, std::size_t{0}}) {
-    append(bytes, fact, 4);
+  const std::array<std::size_t, 8> places{
+      tableSectors, directory, 0, kLongestSmall, smallTable, smallTableSectors, kEndOfChain, 0};
+  for (const std::size_t fact : places) appendLittleEndian(bytes, fact, 4);
+  for (std::size_t sector = 0; sector < tableSectors; ++sector) {
+    appendLittleEndian(bytes, table + sector, 4);
   }
-  for (std::size_t sector = 0; sector < tableSectors; ++sector) append(bytes, table + sector, 4);
-  bytes.resize(kSector, '\xFF');
+  bytes.resize(kHeader, '\xFF');
   return bytes;
 }
 

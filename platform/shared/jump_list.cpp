@@ -24,12 +24,6 @@ std::uint32_t number(std::string_view bytes, std::size_t at) {
   return littleEndian<std::uint32_t>(bytes, at);
 }
 
-void put(std::string& bytes, std::size_t at, std::size_t number) {
-  for (std::size_t place = 0; place < sizeof(std::uint32_t); ++place, number >>= 8U) {
-    bytes[at + place] = static_cast<char>(number & 0xFFU);
-  }
-}
-
 // The bytes that the first entry takes; nothing where they are not all there.
 std::optional<std::size_t> sizeOfEntry(std::string_view entries, std::uint32_t version) {
   const std::size_t length = version == 1 ? 112 : 128;
@@ -71,9 +65,10 @@ std::optional<std::uint32_t> numberOfLink(std::string_view name) {
 
 // The order of the pinned ones alone.
 std::string orderOf(const std::vector<std::string_view>& pinned, std::string_view order) {
-  std::string shorter(order.substr(0, kHeader));
-  put(shorter, kEntries, pinned.size());
-  put(shorter, kPinnedEntries, pinned.size());
+  std::string shorter(order.substr(0, kEntries));
+  appendLittleEndian(shorter, pinned.size(), sizeof(std::uint32_t));
+  appendLittleEndian(shorter, pinned.size(), sizeof(std::uint32_t));
+  shorter += order.substr(shorter.size(), kHeader - shorter.size());
   for (const std::string_view entry : pinned) shorter += entry;
   return shorter;
 }

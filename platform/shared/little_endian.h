@@ -2,7 +2,9 @@
 #pragma once
 
 #include <cassert>
+#include <cstddef>
 #include <cstdint>
+#include <string>
 #include <string_view>
 
 namespace zelvane::platform {
@@ -16,6 +18,11 @@ Number littleEndian(std::string_view bytes, std::size_t at) {
     number = number << 8U | static_cast<unsigned char>(bytes[at + place]);
   }
   return static_cast<Number>(number);
+}
+
+// Of `size` bytes, into which the number fits.
+inline void appendLittleEndian(std::string& bytes, std::uint64_t number, std::size_t size) {
+  for (; size-- > 0; number >>= 8U) bytes += static_cast<char>(number & 0xFFU);
 }
 
 }  // namespace zelvane::platform

@@ -25,6 +25,7 @@ std::string textOf(std::size_t size) {
 
 std::vector<NamedStream> streamsOf(const std::vector<std::size_t>& sizes) {
   std::vector<NamedStream> streams;
+  streams.reserve(sizes.size());
   for (const std::size_t size : sizes) {
     streams.push_back({"stream " + std::to_string(streams.size()), textOf(size)});
   }
@@ -60,8 +61,9 @@ TEST(CompoundFileWriter, WritesATableForEachSectorWhereverTheTableEnds) {
 TEST(CompoundFileWriter, WritesNothingButStreamsAndZeros) {
   const std::string file = compoundFile(streamsOf({1}));
 
-  EXPECT_EQ(file.size(), 512U * 5);  // header, small streams, their table, directory, table
-  EXPECT_EQ(file.find_first_not_of('\0', 512 + 1), std::size_t{512 * 2});
+  constexpr std::size_t kSector = 512;
+  EXPECT_EQ(file.size(), kSector * 5);  // header, small streams, their table, directory, table
+  EXPECT_EQ(file.find_first_not_of('\0', kSector + 1), kSector * 2);
 }
 
 TEST(CompoundFileWriter, RefusesWhatItsTableCannotHold) {
