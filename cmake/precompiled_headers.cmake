@@ -9,7 +9,7 @@ set(ZELVANE_STANDARD_HEADERS
 set(ZELVANE_QT_HEADERS <QApplication> <QLabel> <QLineEdit> <QPointer> <QPushButton> <QVBoxLayout>)
 set(ZELVANE_WINDOWS_HEADERS <winsock2.h> <windows.h> <commctrl.h>) # in an order that they ask for
 
-file(WRITE ${PROJECT_BINARY_DIR}/no_code.cpp "")
+file(CONFIGURE OUTPUT ${PROJECT_BINARY_DIR}/no_code.cpp CONTENT "") # left alone where it is there
 
 function(zelvane_header name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS;DEPENDS")
