@@ -68,7 +68,8 @@ class Command(Contestant):
         """Does it once more, untimed: the most that the process holds meanwhile, in bytes, what it
         shares with others divided among them."""
         with self._start(work, subprocess.DEVNULL) as process, MemoryWatch(process.pid) as watch:
-            process.wait()
+            if process.wait() != 0:
+                raise SystemExit(f"{self.name} ended with status {process.returncode}")
         return watch.most
 
     def _start(self, work, errors):

@@ -43,21 +43,24 @@ class JumpLists : public Passing {
       : Passing(std::move(folder)), path_(std::move(path)), files_(files) {}
 
   void removeFile(const std::string& name) override {
-    const std::string list = path_ + "/" + name;
-    if (endsWith(name, ".automaticDestinations-ms") && files_.exists(list)) {
-      const std::optional<PinnedPart> pinned = pinnedPart(files_.readWhole(list, kLongestList));
-      if (!pinned) {
-        throw Error(ErrorNumber::permissionDenied, name + " may hold what its user has pinned");
-      }
-      if (!pinned->streams.empty()) {
-        if (!pinned->isAll) replace(list, pinned->streams);
-        throw Error(ErrorNumber::permissionDenied, name + " holds what its user has pinned");
-      }
-    }
+    if (endsWith(name, ".automaticDestinations-ms")) leavePins(name);
     Passing::removeFile(name);
   }
 
  private:
+  // Throws where something of the list stays.
+  void leavePins(const std::string& name) {
+    const std::string list = path_ + "/" + name;
+    if (!files_.exists(list)) return;
+    const std::optional<PinnedPart> pinned = pinnedPart(files_.readWhole(list, kLongestList));
+    if (!pinned) {
+      throw Error(ErrorNumber::permissionDenied, name + " may hold what its user has pinned");
+    }
+    if (pinned->streams.empty()) return;
+    if (!pinned->isAll) replace(list, pinned->streams);
+    throw Error(ErrorNumber::permissionDenied, name + " holds what its user has pinned");
+  }
+
   void replace(const std::string& list, const std::vector<NamedStream>& streams) {
     const std::unique_ptr<PendingFile> file = files_.createInPlaceOf(list);
     file->write(compoundFile(streams));

@@ -5,13 +5,14 @@
 #include <charconv>
 
 #include "platform/shared/compound_file_writer.h"
+#include "platform/shared/little_endian.h"
 
 namespace zelvane::test {
 namespace {
 
 std::string bytesOf(std::uint64_t number, std::size_t size) {
   std::string bytes;
-  for (; size-- > 0; number >>= 8U) bytes += static_cast<char>(number & 0xFFU);
+  platform::appendLittleEndian(bytes, number, size);
   return bytes;
 }
 
